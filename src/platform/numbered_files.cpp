@@ -1,0 +1,197 @@
+#include "platform/numbered_files.h"
+
+#include "platform/numbers.h"
+#include "platform/runtime_error.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <utility>
+#include <vector>
+
+namespace arbolith {
+
+namespace {
+
+constexpr std::size_t kBufferSize = 64 * 1024;
+
+bool IsBlank(int c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+ErrorNumber NumberOfSystemError(int systemError, const std::string& path) {
+    switch (systemError) {
+        case ENOENT: {
+            std::error_code ignored;
+            const auto folder = std::filesystem::path(path).parent_path();
+            const bool folderThere = folder.empty() || std::filesystem::exists(folder, ignored);
+            return folderThere ? ErrorNumber::kFileNotFound : ErrorNumber::kPathNotFound;
+        }
+        case ENOTDIR:
+            return ErrorNumber::kPathNotFound;
+        case EACCES:
+        case EPERM:
+        case EROFS:
+        case ETXTBSY:
+            return ErrorNumber::kPermissionDenied;
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return ErrorNumber::kDiskFull;
+        case ENODEV:
+        case ENXIO:
+            return ErrorNumber::kDeviceUnavailable;
+        case EIO:
+            return ErrorNumber::kDeviceError;
+        default:
+            return ErrorNumber::kPathFileAccess;
+    }
+}
+
+bool NameCanBeCreated(const std::string& path) {
+    const auto name = std::filesystem::path(path).filename().string();
+    return name.find_first_of("?\":*|<>") == std::string::npos;
+}
+
+}  // namespace
+
+/// One open file with a buffer of its own, so that characters can be looked at before they are
+/// taken.
+class NumberedFiles::File {
+public:
+    File(const std::string& path, const char* mode)
+        : path_(path), stream_(std::fopen(path.c_str(), mode)) {
+        if (stream_ == nullptr) throw RuntimeError(NumberOfSystemError(errno, path));
+        std::setvbuf(stream_, nullptr, _IONBF, 0);
+        buffer_.reserve(kBufferSize);
+    }
+    ~File() {
+        if (stream_ != nullptr) std::fclose(stream_);
+    }
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+
+    void Write(std::string_view text) {
+        buffer_.insert(buffer_.end(), text.begin(), text.end());
+        if (buffer_.size() >= kBufferSize) Flush();
+    }
+    void Flush() {
+        const auto pending = std::exchange(buffer_, {});
+        if (std::fwrite(pending.data(), 1, pending.size(), stream_) != pending.size())
+            throw RuntimeError(NumberOfSystemError(errno, path_));
+    }
+    void Finish() {
+        if (writing_) Flush();
+        auto* stream = std::exchange(stream_, nullptr);
+        if (std::fclose(stream) != 0) throw RuntimeError(NumberOfSystemError(errno, path_));
+    }
+    void MarkAsWritten() { writing_ = true; }
+
+    int Peek() {
+        if (position_ == buffer_.size()) Refill();
+        return position_ < buffer_.size() ? static_cast<unsigned char>(buffer_[position_]) : EOF;
+    }
+    void Skip() { ++position_; }
+
+    std::string& Token() { return token_; }
+
+private:
+    void Refill() {
+        buffer_.resize(kBufferSize);
+        const auto count = std::fread(buffer_.data(), 1, kBufferSize, stream_);
+        if (count == 0 && std::ferror(stream_) != 0)
+            throw RuntimeError(NumberOfSystemError(errno, path_));
+        buffer_.resize(count);
+        position_ = 0;
+    }
+
+    std::string path_;
+    std::FILE* stream_;
+    std::vector<char> buffer_;
+    std::size_t position_ = 0;
+    std::string token_;
+    bool writing_ = false;
+};
+
+NumberedFiles::NumberedFiles() = default;
+NumberedFiles::~NumberedFiles() = default;
+
+void NumberedFiles::Open(int number, const std::string& path, const char* mode) {
+    if (files_.contains(number)) throw RuntimeError(ErrorNumber::kFileAlreadyOpen);
+    std::error_code ignored;
+    if (path.empty() || std::filesystem::is_directory(path, ignored))
+        throw RuntimeError(ErrorNumber::kPathFileAccess);
+    files_.emplace(number, std::make_unique<File>(path, mode));
+}
+
+void NumberedFiles::OpenForInput(int number, const std::string& path) {
+    Open(number, path, "rbe");
+}
+
+void NumberedFiles::OpenForOutput(int number, const std::string& path) {
+    if (!NameCanBeCreated(path)) throw RuntimeError(ErrorNumber::kBadFileName);
+    Open(number, path, "wbe");
+    files_[number]->MarkAsWritten();
+}
+
+void NumberedFiles::OpenForAppend(int number, const std::string& path) {
+    if (!NameCanBeCreated(path)) throw RuntimeError(ErrorNumber::kBadFileName);
+    Open(number, path, "abe");
+    files_[number]->MarkAsWritten();
+}
+
+NumberedFiles::File& NumberedFiles::Opened(int number) {
+    const auto found = files_.find(number);
+    if (found == files_.end()) throw RuntimeError(ErrorNumber::kBadFileName);
+    return *found->second;
+}
+
+void NumberedFiles::PrintLine(int number, std::string_view text) {
+    auto& file = Opened(number);
+    file.Write(text);
+    file.Write("\r\n");
+}
+
+bool NumberedFiles::AtEndOfData(int number) {
+    auto& file = Opened(number);
+    while (IsBlank(file.Peek())) file.Skip();
+    return file.Peek() == EOF;
+}
+
+std::string_view NumberedFiles::ReadToken(int number) {
+    if (AtEndOfData(number)) throw RuntimeError(ErrorNumber::kInputPastEnd);
+    auto& file = Opened(number);
+    auto& token = file.Token();
+    token.clear();
+    for (int c = file.Peek(); c != EOF && !IsBlank(c); c = file.Peek()) {
+        token += static_cast<char>(c);
+        file.Skip();
+    }
+    return token;
+}
+
+double NumberedFiles::ReadReal(int number) {
+    return ParseReal(ReadToken(number));
+}
+
+std::int16_t NumberedFiles::ReadWhole(int number) {
+    return ToInt16(ReadReal(number));
+}
+
+void NumberedFiles::Close(int number) {
+    const auto found = files_.find(number);
+    if (found == files_.end()) return;
+    const auto file = std::move(found->second);
+    files_.erase(found);
+    file->Finish();
+}
+
+void NumberedFiles::CloseQuietly(int number) {
+    try {
+        Close(number);
+    } catch (const RuntimeError&) {
+        // The trap that calls has told the user all that there is to tell.
+    }
+}
+
+}  // namespace arbolith

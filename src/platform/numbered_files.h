@@ -1,0 +1,54 @@
+// Text files addressed by fixed numbers. A number in use refuses a second open, which procedures
+// that share one rely on. Lines end in CR LF; bytes pass through as they are.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace arbolith {
+
+/// The table of the open files. Every operation throws a RuntimeError with the file's failure: 53
+/// for a missing file, 76 for a missing folder, 75 for a folder or an empty name, 70 for a refused
+/// permission, 52 for a number that is not open or a name that can't be a file's, 55 for a number
+/// in use, 61 for a full disk, 62 for reading past the end.
+class NumberedFiles {
+public:
+    NumberedFiles();
+    ~NumberedFiles();
+    NumberedFiles(const NumberedFiles&) = delete;
+    NumberedFiles& operator=(const NumberedFiles&) = delete;
+
+    void OpenForInput(int number, const std::string& path);
+    /// Creates the file, or empties it where it exists.
+    void OpenForOutput(int number, const std::string& path);
+    void OpenForAppend(int number, const std::string& path);
+
+    /// Writes the text and CR LF.
+    void PrintLine(int number, std::string_view text);
+
+    /// Whether nothing but blanks and line ends is left.
+    bool AtEndOfData(int number);
+    /// The next run of characters between blanks and line ends.
+    std::string_view ReadToken(int number);
+    /// The next token as a real number; 13 where it is none.
+    double ReadReal(int number);
+    /// The next token as a 16-bit whole number, rounded; 6 where it doesn't fit.
+    std::int16_t ReadWhole(int number);
+
+    /// Writes out what is pending and frees the number; nothing where it isn't open.
+    void Close(int number);
+    /// The same, for error traps: what can't be written any more is let go.
+    void CloseQuietly(int number);
+
+private:
+    class File;
+    File& Opened(int number);
+    void Open(int number, const std::string& path, const char* mode);
+
+    std::map<int, std::unique_ptr<File>> files_;
+};
+
+}  // namespace arbolith
