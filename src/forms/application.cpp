@@ -1,5 +1,6 @@
 #include "forms/application.h"
 
+#include "forms/controls.h"
 #include "platform/runtime_error.h"
 
 #include <algorithm>
@@ -92,10 +93,7 @@ void Application::Activate(Form& form) {
     active_ = &form;
     form.Raise(form.onActivate);
     if (form.focus_ == nullptr) form.focus_ = FirstInTabOrder(form);
-    if (Control* now = Focused()) {
-        now->Touch();
-        now->Raise(now->onGotFocus);
-    }
+    if (Control* now = Focused()) GiveFocus(*now);
 }
 
 void Application::Deactivate(Form& form) {
@@ -118,7 +116,16 @@ void Application::SetFocus(Control& control) {
     control.Touch();
     if (active_ != &form) return;
     if (before != nullptr) before->Raise(before->onLostFocus);
-    if (form.focus_ == &control) control.Raise(control.onGotFocus);
+    if (form.focus_ == &control) GiveFocus(control);
+}
+
+void Application::GiveFocus(Control& control) {
+    control.Touch();
+    if (control.Kind() == ControlKind::kTextBox) {
+        auto& box = static_cast<TextBox&>(control);
+        if (box.SelectsAllOnFocus()) box.SelectAll();
+    }
+    control.Raise(control.onGotFocus);
 }
 
 Control* Application::NextInTabOrder(const Control& from, bool forward) {

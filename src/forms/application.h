@@ -76,6 +76,7 @@ private:
     void Remove(Form& form);
     void Touch(Control& control);
     void Deactivate(Form& form);
+    static void GiveFocus(Control& control);
     void SettleFocus();
     void ReportError(const std::string& number, const std::string& name);
 

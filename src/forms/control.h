@@ -25,6 +25,7 @@ enum class ControlKind {
     kMenuItem,
     kTimer,
     kProgressBar,
+    kPicture,
     kGrid,
     kChart,
 };

@@ -162,4 +162,7 @@ void ProgressBar::SetValue(int value) {
     Touch();
 }
 
+Picture::Picture(Control& parent, std::string name, std::string caption, Place place)
+    : Control(ControlKind::kPicture, parent, std::move(name), std::move(caption), place) {}
+
 }  // namespace arbolith

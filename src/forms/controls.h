@@ -190,4 +190,10 @@ private:
     int value_ = 0;
 };
 
+/// A picture that the view draws; the caption is the text on it.
+class Picture : public Control {
+public:
+    Picture(Control& parent, std::string name, std::string caption, Place place);
+};
+
 }  // namespace arbolith

@@ -1,0 +1,17 @@
+// Starting a program and waiting for its end while the person's events flow.
+#pragma once
+
+#include "forms/application.h"
+#include "platform/process.h"
+
+namespace arbolith {
+
+/// How a started program's window shows.
+enum class StartMode : int { kNormal = 0, kHidden = 1 };
+
+/// Starts a program of the application folder and returns when it has ended, at once when it can't
+/// be started: neither that nor its exit code is told. Throws ProgramEnded when this program ended
+/// meanwhile; the started one is then left alone.
+void RunAndWait(Application& application, const std::string& fileName, StartMode mode);
+
+}  // namespace arbolith

@@ -1,0 +1,42 @@
+// The whole program: its forms put together, from the splash to the end.
+#pragma once
+
+#include "forms/resize.h"
+#include "model_bridge/run_command.h"
+#include "results/output.h"
+#include "run_definition/run_definition.h"
+#include "shell/splash.h"
+
+#include <memory>
+
+namespace arbolith {
+
+class Program {
+public:
+    explicit Program(Application& application);
+
+    /// Loads the splash, and by it the main form, and shows the splash. The main form shows when
+    /// the splash goes: at its timer or at a click.
+    void Start();
+
+    Splash& GetSplash() { return splash_; }
+    RunDefinition& Run() { return run_; }
+    /// The Output window; null until its first use.
+    Output* FindOutput() { return output_.get(); }
+
+private:
+    void LoadSplash();
+    void LoadMainForm();
+    void EndSplash();
+    void Centre(Form& form);
+    Output& LoadOutput();
+
+    Application& application_;
+    Resize resize_;
+    Splash splash_;
+    RunDefinition run_;
+    std::unique_ptr<Output> output_;
+    RunCommand runCommand_;
+};
+
+}  // namespace arbolith
