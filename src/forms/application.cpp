@@ -61,6 +61,7 @@ void Application::Add(Form& form) {
 
 void Application::Remove(Form& form) {
     std::erase(forms_, &form);
+    std::erase(shown_, &form);
     std::erase(activeBefore_, &form);
     std::erase_if(touched_, [&](Control* control) { return &control->Owner() == &form; });
     if (active_ == &form) active_ = nullptr;

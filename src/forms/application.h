@@ -46,6 +46,8 @@ public:
 
     /// The forms that were created, in the order of their making.
     const std::vector<Form*>& Forms() const { return forms_; }
+    /// The forms that were shown at least once, in the order of their first showing.
+    const std::vector<Form*>& FormsByFirstShowing() const { return shown_; }
     Form* ActiveForm() const { return active_; }
     /// The control that has the focus: that of the active form, null for none.
     Control* Focused() const;
@@ -85,6 +87,7 @@ private:
     std::string folder_;
     std::string commandLine_;
     std::vector<Form*> forms_;
+    std::vector<Form*> shown_;
     std::vector<Form*> activeBefore_;
     Form* active_ = nullptr;
     std::vector<Control*> touched_;

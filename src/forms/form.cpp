@@ -32,7 +32,10 @@ Control* Form::Find(std::string_view name, int index) const {
 void Form::Show() {
     if (!Visible()) {
         SetVisible(true);
-        if (++timesShown_ == 1) Raise(onResize);
+        if (++timesShown_ == 1) {
+            application_.shown_.push_back(this);
+            Raise(onResize);
+        }
     }
     application_.Activate(*this);
 }
