@@ -9,9 +9,13 @@
 #include <filesystem>
 #include <optional>
 #include <spawn.h>
-#include <sys/pidfd.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+// This header of the C library forgets to say that it is C.
+extern "C" {
+#include <sys/pidfd.h>
+}
 
 extern char** environ;
 
