@@ -64,7 +64,11 @@ void UserActions::Activate(Form& form) {
 
 void UserActions::ComeBack(Form& form) {
     application_.Enter([&] {
-        application_.Activate(form);
+        // A form that was not the active one gets both events by becoming it.
+        if (application_.ActiveForm() != &form) {
+            application_.Activate(form);
+            return;
+        }
         form.Raise(form.onActivate);
         if (Control* focused = form.FocusControl()) focused->Raise(focused->onGotFocus);
     });
