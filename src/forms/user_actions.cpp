@@ -49,6 +49,20 @@ std::vector<MenuItem*> MenusAbove(const Control& item) {
     return menus;
 }
 
+// The usable menu entry that a key is the shortcut of; null for none.
+MenuItem* ItemOfShortcut(const Form& form, Key key) {
+    const char* shortcut = key.name == Key::kSelectAll ? "Ctrl+A"
+                           : key.name == Key::kCopy    ? "Ctrl+C"
+                                                       : nullptr;
+    if (shortcut == nullptr) return nullptr;
+    for (Control* control : form.Controls()) {
+        if (control->Kind() != ControlKind::kMenuItem || !control->Usable()) continue;
+        auto* item = static_cast<MenuItem*>(control);
+        if (item->Shortcut() == shortcut) return item;
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 void UserActions::RequireUsable(const Control& control) const {
@@ -151,6 +165,10 @@ void UserActions::Press(Control& control, Key key) {
     if (key.name == Key::kTab || key.name == Key::kBackTab) {
         if (Control* next = Application::NextInTabOrder(control, key.name == Key::kTab))
             Focus(*next);
+        return;
+    }
+    if (MenuItem* item = ItemOfShortcut(control.Owner(), key)) {
+        application_.Enter([&] { item->Raise(item->onClick); });
         return;
     }
     const auto kind = control.Kind();

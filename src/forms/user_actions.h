@@ -56,7 +56,7 @@ public:
 
     /// Focus, then one key press a character.
     void Type(TextBox& box, const std::string& text);
-    /// Focus, then one key.
+    /// Focus, then one key. The shortcut of a menu entry clicks the entry without opening its menu.
     void Press(Control& control, Key key);
     /// Focus, then the whole text replaced by the pasted one.
     void Paste(TextBox& box, const std::string& text);
