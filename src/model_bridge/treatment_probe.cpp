@@ -199,7 +199,8 @@ void OfferFields(RunDefinition& run, Possible possible) {
         possible.age2 = !run.StepErrorFlag;
     }
     OfferSecondAge(form, possible.age2);
-    if (possible.ba2) {
+    // A second treatment without a time makes no sense.
+    if (possible.ba2 && possible.age2) {
         Ba2Of(form).Offer();
     } else {
         Ba2Of(form).Withdraw();
