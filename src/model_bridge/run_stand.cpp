@@ -29,19 +29,29 @@ void ResetTable(Grid& table) {
     table.AddItem(header);
 }
 
-// Reads the rows of the open output file into the table.
+void AddCurrentRow(Grid& table, const std::string& row) {
+    table.AddItem(row);
+    table.SetRow(table.Rows() - 1);
+}
+
+// Reads the rows of the open output file into the table. Of a row that breaks off, the table keeps
+// what was read.
 void ReadRows(NumberedFiles& files, Grid& table) {
-    OutputRow values;
     std::string row;
     while (!files.AtEndOfData(kExchangeFile)) {
         files.ReadWhole(kExchangeFile);  // the sequence, always 0 here
-        ReadOutputRow(files, values);
         row.clear();
-        for (const double value : values) {
-            row += '\t';
-            AppendDefaultText(row, value);
+        try {
+            for (int variable = 0; variable < kVariables; ++variable) {
+                const double value = files.ReadReal(kExchangeFile);
+                row += '\t';
+                AppendDefaultText(row, value);
+            }
+        } catch (const RuntimeError&) {
+            AddCurrentRow(table, row);
+            throw;
         }
-        table.AddItem(row);
+        AddCurrentRow(table, row);
     }
 }
 
