@@ -55,7 +55,7 @@ AllClasses SizeClassifier::Classes(StemsAndDiameter stand, double dominantHeight
 }
 
 double SizeClassifier::SawlogVolume(double d, double h) const {
-    // Close to the threshold the fitted share to the larger top can exceed that to the smaller one.
+    // The fitted share of aspens first rises a little with the top diameter.
     const double share =
         std::min(volume.LogShare(d, h, sawlog.logs), volume.LogShare(d, h, merchantable.logs));
     const double cubic = volume.Total(d, h) * share;

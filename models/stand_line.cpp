@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstddef>
 
 namespace growth {
@@ -67,7 +66,7 @@ StandLine ReadStandLine(std::string_view line) {
     const Fields fields = Split(line);
     const auto number = [&fields](Field field) { return ReadNumber(fields[field]); };
     StandLine stand;
-    stand.sequence = static_cast<int>(std::clamp(std::floor(number(kSequence)), 0.0, 32767.0));
+    stand.sequence = static_cast<int>(std::clamp(number(kSequence), 0.0, 32767.0));
     stand.units = SaysNo(fields[kMet]) ? Units::Imperial : Units::Metric;
     stand.planted = SaysNo(fields[kNat]);
     stand.species = UpperCase(StripBlanks(fields[kSpec]));
