@@ -1,0 +1,283 @@
+#include "qt/form_window.h"
+
+#include "qt/texts.h"
+#include "qt/views.h"
+#include "qt/window_manager.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace arbolith {
+
+namespace {
+
+// A form without a title is shown without a frame, as a splash is.
+Qt::WindowFlags FlagsOf(const Form& form) {
+    return form.Caption().empty() ? Qt::SplashScreen | Qt::FramelessWindowHint : Qt::Window;
+}
+
+WindowState StateOf(Qt::WindowStates states) {
+    if (states & Qt::WindowMinimized) return WindowState::kMinimised;
+    return states & Qt::WindowMaximized ? WindowState::kMaximised : WindowState::kNormal;
+}
+
+Qt::WindowStates StatesOf(WindowState state) {
+    switch (state) {
+        case WindowState::kMinimised:
+            return Qt::WindowMinimized;
+        case WindowState::kMaximised:
+            return Qt::WindowMaximized;
+        case WindowState::kNormal:
+            break;
+    }
+    return Qt::WindowNoState;
+}
+
+// Focus that comes back by itself: with its window, or when a menu closes.
+bool ComesByItself(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, WindowManager& manager)
+    : QWidget(nullptr, FlagsOf(form)),
+      form_(form),
+      manager_(manager),
+      scale_(Scale::For(form, font())),
+      inside_(new QWidget(this)) {
+    setObjectName(ObjectNameOf(form));
+    Build();
+}
+
+FormWindow::~FormWindow() = default;
+
+bool FormWindow::HasManualTimers() const {
+    return manager_.HasManualTimers();
+}
+
+void FormWindow::Build() {
+    views_.reserve(form_.Controls().size());
+    for (Control* control : form_.Controls()) AddView(*control);
+    for (const auto& [control, view] : views_) view->Refresh();
+}
+
+void FormWindow::AddView(Control& control) {
+    View* view = MakeView(control, *this);
+    if (view == nullptr) return;
+    views_.emplace(&control, view);
+    QWidget* widget = view->Widget();
+    if (widget == nullptr) return;
+    widget->setObjectName(ObjectNameOf(control));
+    if (!control.TakesFocus()) return;
+    focusTakers_.emplace(widget, &control);
+    widget->installEventFilter(this);
+}
+
+View* FormWindow::ViewOf(const Control& control) const {
+    const auto found = views_.find(&control);
+    return found == views_.end() ? nullptr : found->second;
+}
+
+QWidget* FormWindow::InsideOf(const Control& parent) const {
+    const View* view = ViewOf(parent);
+    return view == nullptr || view->Widget() == nullptr ? inside_ : view->Widget();
+}
+
+QMenuBar* FormWindow::MenuBar() {
+    if (menuBar_ == nullptr) menuBar_ = new QMenuBar(this);
+    return menuBar_;
+}
+
+int FormWindow::MenuHeight(int width) const {
+    return menuBar_ == nullptr ? 0 : menuBar_->heightForWidth(width);
+}
+
+bool FormWindow::Perform(const std::function<void(UserActions&)>& action) {
+    if (gone_ || manager_.IsFlushing()) return false;
+    UserActions actions(manager_.GetApplication());
+    try {
+        action(actions);
+    } catch (const ActionRefused&) {
+        // The control has just been hidden or disabled, as the person sees.
+    }
+    return !gone_;
+}
+
+void FormWindow::Retire() {
+    gone_ = true;
+    hide();
+    deleteLater();
+}
+
+void FormWindow::Update(View& view) {
+    if (!gone_) manager_.WhileFlushing([&] { view.Refresh(); });
+}
+
+void FormWindow::Refresh(const Control& control) {
+    if (control.Kind() == ControlKind::kForm) {
+        RefreshForm();
+    } else if (View* view = ViewOf(control)) {
+        view->Refresh();
+    }
+}
+
+void FormWindow::RefreshForm() {
+    const QString title = ToQString(form_.Caption());
+    if (windowTitle() != title) setWindowTitle(title);
+    const bool busy = form_.Pointer() == MousePointer::kHourglass;
+    if (busy != testAttribute(Qt::WA_SetCursor)) busy ? setCursor(Qt::WaitCursor) : unsetCursor();
+    if (form_.Visible()) {
+        RefreshSize();
+        RefreshPosition();
+        RefreshState();
+    }
+    if (isVisible() != form_.Visible()) setVisible(form_.Visible());
+}
+
+void FormWindow::RefreshState() {
+    if (StateOf(windowState()) == form_.State()) return;
+    const auto others = windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized);
+    setWindowState(others | StatesOf(form_.State()));
+}
+
+// A window that would not fit on the screen opens smaller, and the form learns of it.
+void FormWindow::RefreshSize() {
+    const QSize told = scale_.Pixels(form_.ClientSize());
+    const bool isNormal = StateOf(windowState()) == WindowState::kNormal;
+    if (!isNormal || inside_->size() == told) return;
+    const QSize wanted(told.width(), told.height() + MenuHeight(told.width()));
+    const QSize largest = screen()->availableGeometry().size();
+    resize(wanted.boundedTo(largest));
+}
+
+// The place is told for the told size: a window that is larger keeps its middle there.
+void FormWindow::RefreshPosition() {
+    const Place& place = form_.GetPlace();
+    if (place.left == shownPlace_.left && place.top == shownPlace_.top) return;
+    shownPlace_ = place;
+    const Scale unscaled;
+    const QSize told = unscaled.Pixels(form_.ClientSize());
+    const QPoint grown((width() - told.width()) / 2, (height() - told.height()) / 2);
+    const QPoint wanted = QPoint(unscaled.Pixels(place.left), unscaled.Pixels(place.top)) - grown;
+    const QPoint origin = screen()->availableGeometry().topLeft();
+    move(std::max(wanted.x(), origin.x()), std::max(wanted.y(), origin.y()));
+}
+
+void FormWindow::BringToFront() {
+    raise();
+    activateWindow();
+}
+
+void FormWindow::ShowFocus(const Control* focused) {
+    const View* view = focused == nullptr ? nullptr : ViewOf(*focused);
+    QWidget* now = focusWidget();
+    if (qobject_cast<QMenuBar*>(now) != nullptr) return;
+    if (view == nullptr) {
+        if (now != nullptr) now->clearFocus();
+    } else if (view->Widget() != now) {
+        view->Widget()->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+bool FormWindow::event(QEvent* event) {
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::WindowActivate && !gone_) manager_.WindowActivated(*this);
+    return handled;
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::FocusIn || gone_ || manager_.IsFlushing()) return false;
+    const auto taker = focusTakers_.find(watched);
+    if (taker == focusTakers_.end()) return false;
+    if (ComesByItself(static_cast<QFocusEvent*>(event)->reason())) {
+        manager_.ShowFocusLater();
+        return false;
+    }
+    Perform([&](UserActions& actions) { actions.Focus(*taker->second); });
+    manager_.ShowFocus();
+    // The event of a widget that has lost the focus again would leave its caret blinking.
+    return QApplication::focusWidget() != watched;
+}
+
+bool FormWindow::focusNextPrevChild(bool next) {
+    if (gone_ || manager_.IsFlushing()) return false;
+    const Control* from = form_.FocusControl();
+    Control* to = from == nullptr ? Application::FirstInTabOrder(form_)
+                                  : Application::NextInTabOrder(*from, next);
+    if (to == nullptr) return false;
+    // Makes the style draw where the focus is, for those who move by keys.
+    setAttribute(Qt::WA_KeyboardFocusChange);
+    Perform([&](UserActions& actions) { actions.Focus(*to); });
+    return true;
+}
+
+// A key that no control took: Enter presses the default button all the same.
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    QWidget::keyPressEvent(event);
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return;
+    for (Control* control : form_.Controls()) {
+        if (control->Kind() != ControlKind::kButton || !control->Usable()) continue;
+        if (!static_cast<Button*>(control)->IsDefault()) continue;
+        Perform([&](UserActions& actions) { actions.Click(*control); });
+        return;
+    }
+}
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+    const int menuHeight = MenuHeight(width());
+    if (menuBar_ != nullptr) menuBar_->setGeometry(0, 0, width(), menuHeight);
+    inside_->setGeometry(0, menuHeight, width(), height() - menuHeight);
+    ClientSizeChanged();
+}
+
+void FormWindow::RequestClientSize(Size size) {
+    requested_ = size;
+    const QSize pixels = scale_.Pixels(size);
+    resize(pixels.width(), pixels.height() + MenuHeight(pixels.width()));
+    Perform([&](UserActions& actions) { actions.Resize(form_, size); });
+}
+
+void FormWindow::ClientSizeChanged() {
+    if (gone_ || !form_.Visible() || isMinimized()) return;
+    const QSize now = inside_->size();
+    if (now == scale_.Pixels(form_.ClientSize())) return;
+    if (manager_.IsFlushing()) {
+        QMetaObject::invokeMethod(
+            this, [this] { ClientSizeChanged(); }, Qt::QueuedConnection);
+        return;
+    }
+    const Size size = now == scale_.Pixels(requested_) ? requested_ : scale_.Twips(now);
+    Perform([&](UserActions& actions) { actions.Resize(form_, size); });
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) FollowFont();
+    if (event->type() == QEvent::WindowStateChange) FollowWindowState();
+}
+
+void FormWindow::FollowFont() {
+    if (gone_) return;
+    scale_ = Scale::For(form_, font());
+    manager_.WhileFlushing([this] {
+        for (const auto& [control, view] : views_) view->Refresh();
+        RefreshForm();
+    });
+}
+
+void FormWindow::FollowWindowState() {
+    const WindowState state = StateOf(windowState());
+    if (gone_ || manager_.IsFlushing() || !form_.Visible() || state == form_.State()) return;
+    manager_.GetApplication().Enter([&] { form_.SetState(state); });
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    Perform([this](UserActions& actions) { actions.Close(form_); });
+}
+
+}  // namespace arbolith

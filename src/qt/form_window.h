@@ -1,0 +1,90 @@
+// The one window class: it builds every form from the form's controls and follows their state.
+#pragma once
+
+#include "forms/user_actions.h"
+#include "qt/scale.h"
+#include "qt/view.h"
+
+#include <QMenuBar>
+#include <QWidget>
+
+#include <functional>
+#include <unordered_map>
+
+namespace arbolith {
+
+class WindowManager;
+
+/// One form's window. Its client area is what lies below the menu bar. What a person does comes in
+/// through the widgets and goes to the form's controls as user actions; the state comes back by
+/// Refresh.
+class FormWindow : public QWidget {
+public:
+    FormWindow(Form& form, WindowManager& manager);
+    ~FormWindow() override;
+
+    Form& GetForm() const { return form_; }
+    const Scale& GetScale() const { return scale_; }
+    bool HasManualTimers() const;
+
+    /// Shows the state of one control, or of the form itself: title, size, whether it is open.
+    void Refresh(const Control& control);
+    /// Refreshes a view with the window deaf to what its widget says.
+    void Update(View& view);
+    /// Puts the keyboard focus where the state has it; null for nowhere.
+    void ShowFocus(const Control* focused);
+    /// Raises the window and makes it the active one.
+    void BringToFront();
+
+    /// Runs a person's action; one that is refused does nothing. False where the form is gone, or
+    /// the views are just being refreshed.
+    bool Perform(const std::function<void(UserActions&)>& action);
+    /// The form is no more: the window hides and waits for its own end.
+    void Retire();
+
+    /// Gives the client area a size in twips that reaches the form exactly, whatever the pixels
+    /// round to.
+    void RequestClientSize(Size size);
+
+    /// The view of a control; null for a control without one.
+    View* ViewOf(const Control& control) const;
+    /// The widget that holds the controls of a frame or of the form.
+    QWidget* InsideOf(const Control& parent) const;
+    /// The menu bar, made at the first call.
+    QMenuBar* MenuBar();
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void Build();
+    void AddView(Control& control);
+    void RefreshForm();
+    void RefreshState();
+    void RefreshSize();
+    void RefreshPosition();
+    void FollowFont();
+    void FollowWindowState();
+    void TakeFocusFrom(QObject* watched);
+    void ClientSizeChanged();
+    int MenuHeight(int width) const;
+
+    Form& form_;
+    WindowManager& manager_;
+    Scale scale_;
+    QMenuBar* menuBar_ = nullptr;
+    QWidget* inside_;
+    std::unordered_map<const Control*, View*> views_;
+    std::unordered_map<const QObject*, Control*> focusTakers_;
+    Size requested_;
+    Place shownPlace_;
+    bool gone_ = false;
+};
+
+}  // namespace arbolith

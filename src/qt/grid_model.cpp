@@ -1,0 +1,73 @@
+#include "qt/grid_model.h"
+
+#include "qt/texts.h"
+
+#include <algorithm>
+
+namespace arbolith {
+
+GridModel::GridModel(const Grid& grid, QObject* parent)
+    : QAbstractTableModel(parent), grid_(grid) {}
+
+bool GridModel::Update() {
+    const int fixedRows = grid_.FixedRows();
+    const int fixedCols = grid_.FixedCols();
+    const int rows = std::max(0, grid_.Rows() - fixedRows);
+    const int cols = std::max(0, grid_.Cols() - fixedCols);
+    if (rows == rows_ && cols == cols_ && fixedRows == fixedRows_ && fixedCols == fixedCols_) {
+        if (rows_ > 0 && cols_ > 0)
+            emit dataChanged(index(0, 0), index(rows_ - 1, cols_ - 1), {Qt::DisplayRole});
+        return false;
+    }
+    beginResetModel();
+    rows_ = rows;
+    cols_ = cols;
+    fixedRows_ = fixedRows;
+    fixedCols_ = fixedCols;
+    endResetModel();
+    return true;
+}
+
+QModelIndex GridModel::IndexOf(int row, int col) const {
+    return index(row - fixedRows_, col - fixedCols_);
+}
+
+// The grid may have shrunk since the last update, which is about to follow.
+QString GridModel::TextOf(int row, int col) const {
+    if (row < 0 || col < 0 || row >= grid_.Rows() || col >= grid_.Cols()) return {};
+    return ToQString(grid_.Cell(row, col));
+}
+
+bool GridModel::IsCentred(const QModelIndex& index) const {
+    const int row = GridRow(index);
+    const int col = GridCol(index);
+    return row < grid_.Rows() && col < grid_.Cols() &&
+           grid_.GetCellAlignment(row, col) == Grid::CellAlignment::kCentre;
+}
+
+bool GridModel::HasHeadingTexts() const {
+    for (int col = 0; fixedRows_ > 0 && col < grid_.Cols(); ++col)
+        if (!grid_.Cell(fixedRows_ - 1, col).empty()) return true;
+    return false;
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : cols_;
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (role != Qt::DisplayRole) return {};
+    return TextOf(GridRow(index), GridCol(index));
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (role != Qt::DisplayRole) return {};
+    return orientation == Qt::Horizontal ? TextOf(fixedRows_ - 1, section + fixedCols_)
+                                         : TextOf(section + fixedRows_, fixedCols_ - 1);
+}
+
+}  // namespace arbolith

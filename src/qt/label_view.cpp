@@ -1,0 +1,93 @@
+// A label: plain text, a heading, or a link to click. The access key of one leads to the field
+// behind it.
+#include "qt/form_window.h"
+#include "qt/scale.h"
+#include "qt/texts.h"
+#include "qt/views.h"
+
+#include <QLabel>
+
+namespace arbolith {
+
+namespace {
+
+Qt::Alignment AlignmentOf(const Label::Look& look) {
+    const Qt::Alignment vertical = look.wraps ? Qt::AlignTop : Qt::AlignVCenter;
+    switch (look.alignment) {
+        case Alignment::kRight:
+            return vertical | Qt::AlignRight;
+        case Alignment::kCentre:
+            return vertical | Qt::AlignHCenter;
+        case Alignment::kLeft:
+            break;
+    }
+    return vertical | Qt::AlignLeft;
+}
+
+class LabelView final : public QLabel, public View {
+public:
+    LabelView(Label& label, FormWindow& window)
+        : QLabel(window.InsideOf(label.Parent())), View(label, window, this), label_(label) {
+        setTextFormat(Qt::PlainText);
+        setAlignment(AlignmentOf(label.GetLook()));
+        setWordWrap(label.GetLook().wraps);
+        if (label.GetLook().link) setCursor(Qt::PointingHandCursor);
+        RefreshFont();
+    }
+
+    void Refresh() override {
+        const QString caption = ToQString(label_.Caption());
+        if (text() != caption) setText(caption);
+        FindBuddy(caption);
+        RefreshWidget();
+        RefreshBackColor(QPalette::Window, foregroundRole());
+    }
+
+protected:
+    // What the label has no use for goes on to the frame around it.
+    void mousePressEvent(QMouseEvent* event) override {
+        event->setAccepted(label_.onClick || label_.onDoubleClick);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
+            Perform([this](UserActions& actions) { actions.Click(label_); });
+    }
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        mousePressEvent(event);
+        if (event->button() == Qt::LeftButton && event->isAccepted())
+            Perform([this](UserActions& actions) { actions.DoubleClick(label_); });
+    }
+
+private:
+    void RefreshFont() {
+        const Label::Look& look = label_.GetLook();
+        if (!look.bold && look.points == 0 && !look.link) return;
+        QFont told = Window().font();
+        // A told size grows with a large desktop font, so that a heading stays one.
+        if (look.points != 0) told.setPointSizeF(look.points * Scale::FontFactor(told));
+        told.setBold(look.bold);
+        told.setUnderline(look.link);
+        setFont(told);
+        if (look.link) setForegroundRole(QPalette::Link);
+    }
+
+    // Only with a buddy does a label take its access key out of its text.
+    void FindBuddy(const QString& caption) {
+        if (!caption.contains(u'&')) return;
+        const auto& controls = label_.Owner().Controls();
+        auto next = std::find(controls.begin(), controls.end(), &label_);
+        while (next != controls.end() && !(*next)->TakesFocus()) ++next;
+        const View* field = next == controls.end() ? nullptr : Window().ViewOf(**next);
+        if (field != nullptr && buddy() != field->Widget()) setBuddy(field->Widget());
+    }
+
+    Label& label_;
+};
+
+}  // namespace
+
+View* MakeLabelView(Label& label, FormWindow& window) {
+    return new LabelView(label, window);
+}
+
+}  // namespace arbolith

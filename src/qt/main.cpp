@@ -1,0 +1,47 @@
+// The program with its windows.
+#include "qt/icon.h"
+#include "qt/qt_host.h"
+#include "qt/window_manager.h"
+#include "shell/program.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include <filesystem>
+#include <string>
+
+namespace {
+
+// What the toolkit reports about itself is nothing for the user's terminal.
+void DropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+// The shell has taken the quotes away and may stand in another folder than the program.
+std::string CommandLineOf(int count, char** arguments) {
+    if (count < 2) return "";
+    std::error_code failed;
+    const auto path = std::filesystem::absolute(arguments[1], failed);
+    return '"' + (failed ? std::string(arguments[1]) : path.string()) + '"';
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using namespace arbolith;
+    qInstallMessageHandler(DropMessage);
+    QApplication toolkit(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Arbolith"));
+    QApplication::setWindowIcon(ProgramIcon());
+    // A moment without an open window is not the end: the forms say when that is.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QtHost host;
+    const QByteArray folder = QFile::encodeName(QCoreApplication::applicationDirPath());
+    Application application(host, folder.toStdString(), CommandLineOf(argc, argv));
+    WindowManager windows(application);
+    host.SetWindows(&windows);
+    Program program(application);
+    program.Start();
+    const int status = application.HasEnded() ? 0 : QApplication::exec();
+    host.SetWindows(nullptr);
+    return status;
+}

@@ -1,0 +1,36 @@
+#include "qt/texts.h"
+
+#include "platform/code_page.h"
+
+namespace arbolith {
+
+QString ToQString(std::string_view text) {
+    QString result(static_cast<qsizetype>(text.size()), Qt::Uninitialized);
+    QChar* out = result.data();
+    for (const char c : text)
+        *out++ = QChar(static_cast<char16_t>(CodePointOf(static_cast<unsigned char>(c))));
+    return result;
+}
+
+std::string FromQString(QStringView text) {
+    std::string result;
+    result.reserve(static_cast<std::size_t>(text.size()));
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isPair =
+            text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+        result += static_cast<char>(ByteOf(text[i].unicode()));
+        if (isPair) ++i;
+    }
+    return result;
+}
+
+QString WithoutAccessKey(const QString& text) {
+    QString result;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'&' && i + 1 < text.size()) ++i;
+        result += text[i];
+    }
+    return result;
+}
+
+}  // namespace arbolith

@@ -1,0 +1,93 @@
+#include "qt/view.h"
+
+#include "qt/form_window.h"
+#include "qt/keys.h"
+#include "qt/texts.h"
+
+namespace arbolith {
+
+namespace {
+
+// The colour's bytes are blue, green and red from the highest down; the top bit marks a colour of
+// the desktop's.
+bool IsSystemColour(Colour colour) {
+    return (colour & 0x80000000) != 0;
+}
+
+QColor ColourOf(Colour colour) {
+    const auto byte = [&](int shift) { return static_cast<int>((colour >> shift) & 0xFF); };
+    return {byte(0), byte(8), byte(16)};
+}
+
+bool Labels(const Control& control) {
+    const auto kind = control.Kind();
+    return (kind == ControlKind::kLabel || kind == ControlKind::kOption ||
+            kind == ControlKind::kCheckBox) &&
+           !control.Caption().empty();
+}
+
+// The caption, or for a field without one that of the label before it in the same frame.
+std::string AccessibleNameOf(const Control& control) {
+    if (!control.Caption().empty()) return control.Caption();
+    const Control* label = nullptr;
+    for (const Control* other : control.Owner().Controls()) {
+        if (other == &control) break;
+        if (Labels(*other) && &other->Parent() == &control.Parent()) label = other;
+    }
+    return label == nullptr ? control.Name() : label->Caption();
+}
+
+}  // namespace
+
+QString ObjectNameOf(const Control& control) {
+    QString name = ToQString(control.Name());
+    if (control.Index() >= 0) name += QStringLiteral("(%1)").arg(control.Index());
+    return name;
+}
+
+View::View(Control& control, FormWindow& window, QWidget* widget)
+    : control_(control), window_(window), widget_(widget) {}
+
+bool View::Perform(const std::function<void(UserActions&)>& action) {
+    return window_.Perform(action);
+}
+
+void View::ShowState() {
+    window_.Update(*this);
+}
+
+bool View::PassKey(const QKeyEvent& event) {
+    const auto key = KeyOf(event);
+    if (!key || key->name == Key::kTab || key->name == Key::kBackTab) return false;
+    Perform([&](UserActions& actions) { actions.Press(control_, *key); });
+    return true;
+}
+
+void View::RefreshWidget() {
+    const QRect place = window_.GetScale().Pixels(control_.GetPlace());
+    if (widget_->geometry() != place) widget_->setGeometry(place);
+    if (widget_->isEnabledTo(widget_->parentWidget()) != control_.Enabled())
+        widget_->setEnabled(control_.Enabled());
+    const QString name = WithoutAccessKey(ToQString(AccessibleNameOf(control_)));
+    if (widget_->accessibleName() != name) widget_->setAccessibleName(name);
+    if (widget_->isHidden() == control_.Visible()) widget_->setVisible(control_.Visible());
+}
+
+void View::RefreshBackColor(QPalette::ColorRole background, QPalette::ColorRole text) {
+    const Colour colour = control_.BackColor();
+    if (colour == shownColour_) return;
+    shownColour_ = colour;
+    if (IsSystemColour(colour)) {
+        widget_->setPalette({});
+        widget_->setAutoFillBackground(false);
+        return;
+    }
+    QPalette palette;
+    palette.setColor(background, ColourOf(colour));
+    palette.setColor(QPalette::Active, text, Qt::black);
+    palette.setColor(QPalette::Inactive, text, Qt::black);
+    widget_->setPalette(palette);
+    widget_->setAutoFillBackground(true);
+}
+
+}  // namespace arbolith

@@ -1,0 +1,59 @@
+// What all views have in common. A view is the widget of one control: it shows the control's state
+// and passes on what a person does to it; it keeps no state of its own.
+#pragma once
+
+#include "forms/control.h"
+#include "forms/user_actions.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPalette>
+#include <QWidget>
+
+#include <functional>
+
+namespace arbolith {
+
+class FormWindow;
+
+/// Lives as long as its widget, which belongs to its window.
+class View {
+public:
+    View(const View&) = delete;
+    View& operator=(const View&) = delete;
+    virtual ~View() = default;
+
+    /// Shows the control's state as it stands. Called while the window ignores what its widgets
+    /// say, so that nothing comes back as a person's action.
+    virtual void Refresh() = 0;
+
+    /// The widget that mouse and keys are sent to; null for a menu entry or a timer.
+    QWidget* Widget() const { return widget_; }
+
+protected:
+    /// `widget` is what the view shows itself as, null for nothing that has a place.
+    View(Control& control, FormWindow& window, QWidget* widget);
+
+    FormWindow& Window() const { return window_; }
+    /// Runs a person's action; one that is refused does nothing. False where the control is gone.
+    bool Perform(const std::function<void(UserActions&)>& action);
+    /// Refreshes after the widget has changed by itself.
+    void ShowState();
+    /// Passes a key on to the control; false for a key that is no business of the control.
+    bool PassKey(const QKeyEvent& event);
+    /// Place, name, visible and enabled.
+    void RefreshWidget();
+    /// The control's background behind these colours of the palette, with dark text on it.
+    void RefreshBackColor(QPalette::ColorRole background, QPalette::ColorRole text);
+
+private:
+    Control& control_;
+    FormWindow& window_;
+    QWidget* widget_;
+    Colour shownColour_ = kButtonFace;
+};
+
+/// The object name of a control's widget: its name, with the index of a control array.
+QString ObjectNameOf(const Control& control);
+
+}  // namespace arbolith
