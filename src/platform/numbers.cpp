@@ -139,7 +139,7 @@ double WholePart(double value) {
 }
 
 double ParseReal(std::string_view token) {
-    if (!token.empty() && token.front() == '+') token.remove_prefix(1);
+    if (token.starts_with('+') && !token.starts_with("+-")) token.remove_prefix(1);
     const bool plain = token.find_first_not_of("+-.0123456789eE") == std::string_view::npos;
     double value = 0;
     const char* end = token.data() + token.size();
