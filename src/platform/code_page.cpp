@@ -49,7 +49,8 @@ char32_t TakeCodePoint(std::string_view& utf8) {
         c = (c << 6) | (unit & 0x3F);
     }
     utf8.remove_prefix(length - 1);
-    return c;
+    constexpr std::array<char32_t, 5> kLeast = {0, 0, 0x80, 0x800, 0x10000};
+    return c < kLeast[length] ? 0xFFFD : c;
 }
 
 }  // namespace
