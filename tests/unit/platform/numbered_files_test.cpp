@@ -1,0 +1,233 @@
+#include "platform/numbered_files.h"
+
+#include "unit/platform/expect_error.h"
+#include "unit/platform/temporary_folder.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace arbolith {
+
+class NumberedFilesTest : public ::testing::Test {
+protected:
+    std::string PathOf(const std::string& name) const { return folder_.PathOf(name); }
+
+    void OpenWith(const std::string& bytes) {
+        folder_.Write("in.txt", bytes);
+        files_.OpenForInput(1, PathOf("in.txt"));
+    }
+
+    TemporaryFolder folder_;
+    NumberedFiles files_;
+};
+
+TEST_F(NumberedFilesTest, EndsLinesInCrLf) {
+    files_.OpenForOutput(1, PathOf("out.txt"));
+    files_.PrintLine(1, "one");
+    files_.PrintLine(1, "");
+    files_.PrintLine(1, "\xE9\t");
+    files_.Close(1);
+    EXPECT_EQ(folder_.Read("out.txt"), "one\r\n\r\n\xE9\t\r\n");
+}
+
+TEST_F(NumberedFilesTest, EmptiesAnExistingFileOpenedForOutput) {
+    folder_.Write("out.txt", "a much longer earlier text");
+    files_.OpenForOutput(1, PathOf("out.txt"));
+    files_.PrintLine(1, "new");
+    files_.Close(1);
+    EXPECT_EQ(folder_.Read("out.txt"), "new\r\n");
+}
+
+TEST_F(NumberedFilesTest, GoesOnBehindAnExistingFileOpenedForAppend) {
+    folder_.Write("out.txt", "old\r\n");
+    files_.OpenForAppend(1, PathOf("out.txt"));
+    files_.PrintLine(1, "new");
+    files_.Close(1);
+    EXPECT_EQ(folder_.Read("out.txt"), "old\r\nnew\r\n");
+}
+
+TEST_F(NumberedFilesTest, CreatesAMissingFileOpenedForAppend) {
+    files_.OpenForAppend(1, PathOf("out.txt"));
+    files_.Close(1);
+    EXPECT_TRUE(std::filesystem::exists(PathOf("out.txt")));
+}
+
+TEST_F(NumberedFilesTest, WritesMoreThanItsBufferWhole) {
+    const std::string line(1000, 'x');
+    std::string expected;
+    files_.OpenForOutput(1, PathOf("out.txt"));
+    for (int i = 0; i < 200; ++i) {
+        files_.PrintLine(1, line);
+        expected += line + "\r\n";
+    }
+    files_.Close(1);
+    EXPECT_EQ(folder_.Read("out.txt"), expected);
+}
+
+TEST_F(NumberedFilesTest, ReadsTokensBetweenBlanksAndLineEnds) {
+    OpenWith("  4\r\n0 12.50\t-3\n\nlast");
+    EXPECT_EQ(files_.ReadToken(1), "4");
+    EXPECT_EQ(files_.ReadWhole(1), 0);
+    EXPECT_EQ(files_.ReadReal(1), 12.5);
+    EXPECT_EQ(files_.ReadToken(1), "-3");
+    EXPECT_EQ(files_.ReadToken(1), "last");
+    EXPECT_TRUE(files_.AtEndOfData(1));
+}
+
+TEST_F(NumberedFilesTest, ReadsATokenAcrossItsBuffersEdge) {
+    const std::string token(100, '7');
+    OpenWith(std::string(64 * 1024 - 50, ' ') + token + " 8");
+    EXPECT_EQ(files_.ReadToken(1), token);
+    EXPECT_EQ(files_.ReadWhole(1), 8);
+}
+
+TEST_F(NumberedFilesTest, TakesBlanksAndLineEndsAtTheEndForTheEndOfTheData) {
+    OpenWith("1 \r\n\t \r\n\r\n");
+    EXPECT_FALSE(files_.AtEndOfData(1));
+    files_.ReadToken(1);
+    EXPECT_TRUE(files_.AtEndOfData(1));
+}
+
+TEST_F(NumberedFilesTest, HoldsNoDataInAnEmptyFile) {
+    OpenWith("");
+    EXPECT_TRUE(files_.AtEndOfData(1));
+}
+
+TEST_F(NumberedFilesTest, FailsWith62PastTheEnd) {
+    OpenWith("1 \r\n");
+    files_.ReadToken(1);
+    EXPECT_ERROR(62, files_.ReadToken(1));
+    EXPECT_ERROR(62, files_.ReadReal(1));
+    EXPECT_ERROR(62, files_.ReadWhole(1));
+}
+
+TEST_F(NumberedFilesTest, FailsWith13OnATokenThatIsNoNumber) {
+    OpenWith("abc nan 1,5");
+    EXPECT_ERROR(13, files_.ReadReal(1));
+    EXPECT_ERROR(13, files_.ReadReal(1));
+    EXPECT_ERROR(13, files_.ReadWhole(1));
+}
+
+TEST_F(NumberedFilesTest, RoundsWholeNumbersAndFailsWith6OutsideTheirRange) {
+    OpenWith("2.5 40000");
+    EXPECT_EQ(files_.ReadWhole(1), 2);
+    EXPECT_ERROR(6, files_.ReadWhole(1));
+}
+
+TEST_F(NumberedFilesTest, FailsWith53OnAMissingFile) {
+    EXPECT_ERROR(53, files_.OpenForInput(1, PathOf("missing.txt")));
+}
+
+TEST_F(NumberedFilesTest, FailsWith76OnAMissingFolder) {
+    EXPECT_ERROR(76, files_.OpenForInput(1, PathOf("missing/in.txt")));
+    EXPECT_ERROR(76, files_.OpenForOutput(1, PathOf("missing/out.txt")));
+    folder_.Write("file", "");
+    EXPECT_ERROR(76, files_.OpenForOutput(1, PathOf("file/out.txt")));
+}
+
+TEST_F(NumberedFilesTest, FailsWith75OnAFolderAndOnAnEmptyName) {
+    EXPECT_ERROR(75, files_.OpenForInput(1, folder_.Path()));
+    EXPECT_ERROR(75, files_.OpenForOutput(1, folder_.Path()));
+    EXPECT_ERROR(75, files_.OpenForInput(1, ""));
+    EXPECT_ERROR(75, files_.OpenForOutput(1, ""));
+}
+
+TEST_F(NumberedFilesTest, FailsWith70WhereThePermissionsRefuse) {
+    if (geteuid() == 0) GTEST_SKIP() << "nothing is refused to root";
+    folder_.Write("locked.txt", "");
+    chmod(PathOf("locked.txt").c_str(), 0);
+    EXPECT_ERROR(70, files_.OpenForInput(1, PathOf("locked.txt")));
+    EXPECT_ERROR(70, files_.OpenForOutput(1, PathOf("locked.txt")));
+}
+
+TEST_F(NumberedFilesTest, FailsWith70OnAProgramThatIsRunning) {
+    EXPECT_ERROR(70, files_.OpenForAppend(1, "/proc/self/exe"));
+}
+
+TEST_F(NumberedFilesTest, FailsWith61OnAFullDisk) {
+    files_.OpenForOutput(1, "/dev/full");
+    files_.PrintLine(1, "a line that only the closing writes out");
+    EXPECT_ERROR(61, files_.Close(1));
+
+    files_.OpenForOutput(1, "/dev/full");
+    EXPECT_ERROR(61, files_.PrintLine(1, std::string(100 * 1024, 'x')));
+}
+
+TEST_F(NumberedFilesTest, FailsWith52OnANumberThatIsNotOpen) {
+    EXPECT_ERROR(52, files_.PrintLine(1, "x"));
+    EXPECT_ERROR(52, files_.ReadToken(1));
+    EXPECT_ERROR(52, files_.AtEndOfData(1));
+}
+
+TEST_F(NumberedFilesTest, FailsWith52OnANameThatNoFileCanHave) {
+    for (const char c : std::string("?\":*|<>")) {
+        const auto path = PathOf(std::string("a") + c + "b.txt");
+        EXPECT_ERROR(52, files_.OpenForOutput(1, path)) << c;
+        EXPECT_ERROR(52, files_.OpenForAppend(1, path)) << c;
+        EXPECT_FALSE(std::filesystem::exists(path));
+    }
+}
+
+TEST_F(NumberedFilesTest, LooksOnlyAtTheLastPartOfANameThatIsCreated) {
+    std::filesystem::create_directory(PathOf("a:b"));
+    files_.OpenForOutput(1, PathOf("a:b/out.txt"));
+    files_.Close(1);
+    EXPECT_TRUE(std::filesystem::exists(PathOf("a:b/out.txt")));
+}
+
+TEST_F(NumberedFilesTest, FailsWith55OnANumberInUseAndLeavesItsFileAlone) {
+    files_.OpenForOutput(1, PathOf("first.txt"));
+    EXPECT_ERROR(55, files_.OpenForInput(1, PathOf("missing.txt")));
+    EXPECT_ERROR(55, files_.OpenForOutput(1, PathOf("second.txt")));
+    files_.PrintLine(1, "still open");
+    files_.Close(1);
+    EXPECT_EQ(folder_.Read("first.txt"), "still open\r\n");
+    EXPECT_FALSE(std::filesystem::exists(PathOf("second.txt")));
+}
+
+TEST_F(NumberedFilesTest, KeepsDifferentNumbersApart) {
+    files_.OpenForOutput(1, PathOf("one.txt"));
+    files_.OpenForOutput(9, PathOf("nine.txt"));
+    files_.PrintLine(9, "nine");
+    files_.PrintLine(1, "one");
+    files_.Close(1);
+    files_.Close(9);
+    EXPECT_EQ(folder_.Read("one.txt"), "one\r\n");
+    EXPECT_EQ(folder_.Read("nine.txt"), "nine\r\n");
+}
+
+TEST_F(NumberedFilesTest, FreesTheNumberOfAFailedOpen) {
+    EXPECT_ERROR(53, files_.OpenForInput(1, PathOf("missing.txt")));
+    files_.OpenForOutput(1, PathOf("out.txt"));
+    files_.Close(1);
+}
+
+TEST_F(NumberedFilesTest, FreesTheNumberWhenTheClosingFails) {
+    files_.OpenForOutput(1, "/dev/full");
+    files_.PrintLine(1, "x");
+    EXPECT_ERROR(61, files_.Close(1));
+    files_.OpenForOutput(1, PathOf("out.txt"));
+    files_.Close(1);
+}
+
+TEST_F(NumberedFilesTest, ClosesANumberThatIsNotOpenWithoutAWord) {
+    EXPECT_ERROR(0, files_.Close(2));
+    EXPECT_ERROR(0, files_.CloseQuietly(2));
+}
+
+TEST_F(NumberedFilesTest, LetsGoQuietlyOfWhatCannotBeWritten) {
+    files_.OpenForOutput(1, "/dev/full");
+    files_.PrintLine(1, "x");
+    EXPECT_ERROR(0, files_.CloseQuietly(1));
+    EXPECT_ERROR(52, files_.PrintLine(1, "y"));
+}
+
+TEST_F(NumberedFilesTest, WritesOutWhatIsPendingWhenClosedQuietly) {
+    files_.OpenForOutput(1, PathOf("out.txt"));
+    files_.PrintLine(1, "kept");
+    files_.CloseQuietly(1);
+    EXPECT_EQ(folder_.Read("out.txt"), "kept\r\n");
+}
+
+}  // namespace arbolith
