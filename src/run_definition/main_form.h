@@ -30,6 +30,9 @@ struct MainForm : Form {
     Frame Qvly{*this, "Qvly", "Arbolith Models:", {120, 60, 14160, 9060}};
     Frame Batch{*this, "Batch", "Batch Run", {120, 60, 14160, 9060}};
 
+    /// Under the numbers of the two treatments.
+    static constexpr Label::Look kCentred = {.alignment = Alignment::kCentre};
+
     // What each step holds: the step's button, then a column of labels and a column of values.
     Frame Steps{Qvly, "Steps", "Steps", {120, 360, 4680, 8520}};
 
@@ -77,15 +80,15 @@ struct MainForm : Form {
     Label Step7_lbl1{Steps, "Step7_lbl1", "Management Options:", {720, 6075, 3000, 285}};
     Label Step7_lbl2{Steps, "Step7_lbl2", "Treatment:      1        2", {720, 6450, 3840, 285}};
     Label Step7_lbl3{Steps, "Step7_lbl3", "Age:", {720, 6825, 1080, 285}};
-    Label Step7_Age1{Steps, "Step7_Age1", "", {1980, 6825, 600, 285}};
-    Label Step7_Age2{Steps, "Step7_Age2", "", {2700, 6825, 600, 285}};
+    Label Step7_Age1{Steps, "Step7_Age1", "", {1860, 6825, 570, 285}, kCentred};
+    Label Step7_Age2{Steps, "Step7_Age2", "", {2445, 6825, 570, 285}, kCentred};
     Label Step7_lbl4{Steps, "Step7_lbl4", "DBH:", {720, 7200, 1080, 285}};
-    Label Step7_DBH1{Steps, "Step7_DBH1", "", {1980, 7200, 600, 285}};
+    Label Step7_DBH1{Steps, "Step7_DBH1", "", {1860, 7200, 570, 285}, kCentred};
     Label Step7_lbl5{Steps, "Step7_lbl5", "% B.A.", {720, 7575, 1080, 285}};
-    Label Step7_BA1{Steps, "Step7_BA1", "", {1980, 7575, 600, 285}};
-    Label Step7_BA2{Steps, "Step7_BA2", "", {2700, 7575, 600, 285}};
+    Label Step7_BA1{Steps, "Step7_BA1", "", {1860, 7575, 570, 285}, kCentred};
+    Label Step7_BA2{Steps, "Step7_BA2", "", {2445, 7575, 570, 285}, kCentred};
     Label Step7_lbl6{Steps, "Step7_lbl6", "Spacing:", {720, 7950, 1080, 285}};
-    Label Step7_Spac{Steps, "Step7_Spac", "", {1980, 7950, 600, 285}};
+    Label Step7_Spac{Steps, "Step7_Spac", "", {1860, 7950, 570, 285}, kCentred};
 
     // The open step.
     Frame Options{Qvly, "Options", "Options", {4920, 360, 9120, 4440}};
