@@ -20,6 +20,12 @@ Label::Label(Control& parent, std::string name, std::string caption, Place place
 Button::Button(Control& parent, std::string name, std::string caption, Place place)
     : Control(ControlKind::kButton, parent, std::move(name), std::move(caption), place) {}
 
+void Button::SetMarked(bool marked) {
+    if (marked_ == marked) return;
+    marked_ = marked;
+    Touch();
+}
+
 Option::Option(Control& parent, std::string name, std::string caption, Place place)
     : Control(ControlKind::kOption, parent, std::move(name), std::move(caption), place) {}
 

@@ -47,9 +47,13 @@ public:
     /// Whether Enter anywhere on the form presses it.
     bool IsDefault() const { return default_; }
     void SetDefault(bool isDefault) { default_ = isDefault; }
+    /// Whether it stands out as the one whose content is open.
+    bool IsMarked() const { return marked_; }
+    void SetMarked(bool marked);
 
 private:
     bool default_ = false;
+    bool marked_ = false;
 };
 
 /// An option button. Options exclude each other only by what their click handlers do.

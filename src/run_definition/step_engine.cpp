@@ -143,6 +143,7 @@ void HideStepFrames(RunDefinition& run) {
     auto& form = run.form;
     form.Options_Help.SetVisible(false);
     for (Frame* frame : StepFrames(form)) frame->SetVisible(false);
+    for (Button* button : StepButtons(form)) button->SetMarked(false);
     for (Label* help : HelpLabels(form)) help->SetVisible(false);
     form.NSpruceHelp.SetVisible(false);
     form.Help4a.SetVisible(false);
@@ -158,6 +159,7 @@ void ShowStep(RunDefinition& run, int step) {
     }
     const auto index = static_cast<std::size_t>(step - 1);
     StepFrames(form)[index]->SetVisible(true);
+    StepButtons(form)[index]->SetMarked(true);
     HelpLabels(form)[index]->SetVisible(true);
     if (step == 3) form.NSpruceHelp.SetVisible(form.lstSpecies.Text() == "Norway Spruce");
     if (step == 4) form.Help4a.SetVisible(true);
