@@ -131,10 +131,15 @@ void Grid::AddItem(std::string_view row) {
 }
 
 void Grid::RemoveItemsIf(int first, const std::function<bool(int row)>& picks) {
+    const bool hasAlignments = !alignments_.empty();
+    if (hasAlignments) alignments_.resize(rows_.size());
     int kept = first;
     for (int row = first; row < Rows(); ++row) {
         if (picks(row)) continue;
-        if (kept != row) rows_[At(kept)] = std::move(rows_[At(row)]);
+        if (kept != row) {
+            rows_[At(kept)] = std::move(rows_[At(row)]);
+            if (hasAlignments) alignments_[At(kept)] = std::move(alignments_[At(row)]);
+        }
         ++kept;
     }
     if (kept < Rows()) SetRows(kept);
