@@ -19,9 +19,14 @@ std::string Application::PathOf(const std::string& fileName) const {
 
 void Application::Enter(const std::function<void()>& event) {
     if (ended_) return;
+    Attempt(event);
+    Attempt([this] { SettleFocus(); });
+    if (onSettled) onSettled();
+}
+
+void Application::Attempt(const std::function<void()>& work) {
     try {
-        event();
-        SettleFocus();
+        work();
     } catch (const ProgramEnded&) {
         // Nothing is left to do: the forms are gone.
     } catch (const RuntimeError& error) {
@@ -30,7 +35,6 @@ void Application::Enter(const std::function<void()>& event) {
         const auto number = ErrorNumber::kOutOfMemory;
         ReportError(std::to_string(static_cast<int>(number)), ErrorName(number));
     }
-    if (onSettled) onSettled();
 }
 
 void Application::ReportError(const std::string& number, const std::string& name) {
