@@ -1,0 +1,32 @@
+// A host for tests of forms: boxes are noted and answered, programs are never started.
+#pragma once
+
+#include "platform/host.h"
+
+#include <string>
+#include <vector>
+
+namespace arbolith {
+
+class TestHost : public Host {
+public:
+    bool ShowBox(const Box& box) override {
+        boxes.push_back(box);
+        return answer;
+    }
+    void Beep() override { ++beeps; }
+    void SetClipboardText(const std::string& text) override { clipboard = text; }
+    std::string ClipboardText() override { return clipboard; }
+    std::unique_ptr<Process> Start(const ProgramStart&) override { return nullptr; }
+    void WaitForEnd(Process&, const std::function<bool()>&) override {}
+    Size ScreenSize() override { return {15360, 11520}; }
+    void EndProgram() override { ++ends; }
+
+    std::vector<Box> boxes;
+    std::string clipboard;
+    bool answer = true;
+    int beeps = 0;
+    int ends = 0;
+};
+
+}  // namespace arbolith
