@@ -14,6 +14,8 @@ namespace arbolith {
 namespace {
 
 constexpr std::size_t kBufferSize = 64 * 1024;
+// What runs on for longer is no number of a model, and may not end at all.
+constexpr std::size_t kLongestToken = 1000;
 
 bool IsBlank(int c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
@@ -164,6 +166,7 @@ std::string_view NumberedFiles::ReadToken(int number) {
     auto& token = file.Token();
     token.clear();
     for (int c = file.Peek(); c != EOF && !IsBlank(c); c = file.Peek()) {
+        if (token.size() == kLongestToken) throw RuntimeError(ErrorNumber::kTypeMismatch);
         token += static_cast<char>(c);
         file.Skip();
     }

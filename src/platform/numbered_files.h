@@ -31,7 +31,8 @@ public:
 
     /// Whether nothing but blanks and line ends is left.
     bool AtEndOfData(int number);
-    /// The next run of characters between blanks and line ends.
+    /// The next run of characters between blanks and line ends; 13 where it is longer than any
+    /// number.
     std::string_view ReadToken(int number);
     /// The next token as a real number; 13 where it is none.
     double ReadReal(int number);
