@@ -4,6 +4,8 @@ add_library(arbolith_options INTERFACE)
 target_compile_options(
   arbolith_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
                              -Woverloaded-virtual $<$<BOOL:${ARBOLITH_WERROR}>:-Werror>)
+# g++ 12 sees overlaps in plain string sums where there are none.
+target_compile_options(arbolith_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 if(ARBOLITH_SANITIZE)
   target_compile_options(arbolith_options INTERFACE -fsanitize=address,undefined
                                                     -fno-sanitize-recover=all -fno-omit-frame-pointer)
