@@ -80,6 +80,8 @@ TEST_F(RunCommandTest, ProbesHiddenBeforeItRuns) {
     run.form.Age1.SetText("5");
     run.form.BA1.SetText("30");
     host.model = [this](const ProgramStart&) {
+        EXPECT_NE(folder.Read("_INPUT.TMP").find("\t5.0\t0.0\t0.0\t0.0\t30.0\t"),
+                  std::string::npos);
         folder.Write("_OUTPUT.TMP", ModelOutput({{.sage = 5, .mdbh = 14, .th = 20}}));
     };
     Click();
@@ -191,13 +193,14 @@ TEST_F(RunCommandTest, UnwindsWithoutATraceWhenTheProgramEndsMeanwhile) {
 TEST_F(RunCommandTest, RunsAnythingInAdvancedMode) {
     run.form.Adv_Mode.SetChecked(true);
     ResetInput(run);
+    run.form.lstSpecies.SetListIndex(2);
     run.form.Age1.SetText("999");
     Click();
     EXPECT_TRUE(host.boxes.empty());
     EXPECT_EQ(host.starts.size(), 1u);
     EXPECT_EQ(
         folder.Read("_INPUT.TMP"),
-        "0\tY\tY\t\t0\t0.0\t1\t0.0\t0.0\t0\t0.0\t999.0\t0.0\t0.0\t0.0\t0.0\t0.0\t0.0\t0\t\r\n");
+        "0\tY\tY\tBS\t0\t0.0\t1\t0.0\t0.0\t0\t0.0\t999.0\t0.0\t0.0\t0.0\t0.0\t0.0\t0.0\t0\t\r\n");
 }
 
 }  // namespace
