@@ -41,6 +41,8 @@ struct DialogAnswer {
     Kind kind = kCancel;
     std::string text;
     int filterIndex = 0;  ///< From 1; 0 leaves the dialog's own.
+
+    bool operator==(const DialogAnswer&) const = default;
 };
 
 /// The queues of answers, first in, first out for each kind of box. A cancel is taken by whatever
