@@ -5,9 +5,14 @@
 
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace arbolith {
 
 namespace {
+
+// Pixels between two buttons of a row.
+constexpr int kGap = 6;
 
 class ButtonView final : public QPushButton, public View {
 public:
@@ -25,16 +30,48 @@ public:
         if (isDefault() != button_.IsDefault()) setDefault(button_.IsDefault());
         RefreshWidget();
         RefreshBackColor(QPalette::Button, QPalette::ButtonText);
+        if (marked_ != button_.IsMarked()) RefreshMark();
     }
 
 protected:
+    // Told places may touch: a gap keeps a button apart from the next one in its row.
+    QRect ShownPlace() const override {
+        QRect place = View::ShownPlace();
+        for (const Control* other : button_.Owner().Controls()) {
+            if (other->Kind() != ControlKind::kButton || !SharesRowWith(*other)) continue;
+            const int left = Window().GetScale().Pixels(other->GetPlace()).left();
+            if (left > place.left()) place.setRight(std::min(place.right(), left - kGap));
+        }
+        return place;
+    }
+
     void keyPressEvent(QKeyEvent* event) override {
         // The space bar presses and lets go, so that the button is seen to go down.
         if (event->key() == Qt::Key_Space || !PassKey(*event)) QPushButton::keyPressEvent(event);
     }
 
 private:
+    bool SharesRowWith(const Control& other) const {
+        return &other != &button_ && &other.Parent() == &button_.Parent() && other.Visible() &&
+               other.GetPlace().top == button_.GetPlace().top;
+    }
+
+    // The marked button has the colours of a selection.
+    void RefreshMark() {
+        marked_ = button_.IsMarked();
+        QFont told = Window().font();
+        told.setBold(marked_);
+        setFont(told);
+        QPalette colours;
+        if (marked_) {
+            colours.setBrush(QPalette::Button, palette().highlight());
+            colours.setBrush(QPalette::ButtonText, palette().highlightedText());
+        }
+        setPalette(colours);
+    }
+
     Button& button_;
+    bool marked_ = false;
 };
 
 }  // namespace

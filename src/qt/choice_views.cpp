@@ -26,7 +26,7 @@ public:
         if (this->text() != caption) this->setText(caption);
         if (this->isChecked() != choice_.Value()) this->setChecked(choice_.Value());
         RefreshWidget();
-        RefreshBackColor(QPalette::Window, QPalette::WindowText);
+        RefreshBackColor(this->backgroundRole(), this->foregroundRole());
     }
 
 protected:

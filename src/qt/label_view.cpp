@@ -40,6 +40,8 @@ public:
         if (text() != caption) setText(caption);
         FindBuddy(caption);
         RefreshWidget();
+        if (label_.GetLook().link)
+            setForegroundRole(isEnabled() ? QPalette::Link : QPalette::WindowText);
         RefreshBackColor(QPalette::Window, foregroundRole());
     }
 
@@ -68,12 +70,11 @@ private:
         told.setBold(look.bold);
         told.setUnderline(look.link);
         setFont(told);
-        if (look.link) setForegroundRole(QPalette::Link);
     }
 
     // Only with a buddy does a label take its access key out of its text.
     void FindBuddy(const QString& caption) {
-        if (!caption.contains(u'&')) return;
+        if (label_.GetLook().wraps || !caption.contains(u'&')) return;
         const auto& controls = label_.Owner().Controls();
         auto next = std::find(controls.begin(), controls.end(), &label_);
         while (next != controls.end() && !(*next)->TakesFocus()) ++next;

@@ -63,8 +63,12 @@ bool View::PassKey(const QKeyEvent& event) {
     return true;
 }
 
+QRect View::ShownPlace() const {
+    return window_.GetScale().Pixels(control_.GetPlace());
+}
+
 void View::RefreshWidget() {
-    const QRect place = window_.GetScale().Pixels(control_.GetPlace());
+    const QRect place = ShownPlace();
     if (widget_->geometry() != place) widget_->setGeometry(place);
     if (widget_->isEnabledTo(widget_->parentWidget()) != control_.Enabled())
         widget_->setEnabled(control_.Enabled());

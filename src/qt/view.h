@@ -43,6 +43,8 @@ protected:
     bool PassKey(const QKeyEvent& event);
     /// Place, name, visible and enabled.
     void RefreshWidget();
+    /// Where the widget stands in its parent, in pixels: the told place, scaled.
+    virtual QRect ShownPlace() const;
     /// The control's background behind these colours of the palette, with dark text on it.
     void RefreshBackColor(QPalette::ColorRole background, QPalette::ColorRole text);
 
