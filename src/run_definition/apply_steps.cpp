@@ -41,7 +41,12 @@ bool ApplyUnitChange(RunDefinition& run) {
     ApplyStep4(run);
     form.txtRotDBH.SetText("");
     ApplyStep6(run);
-    Empty({&form.DBH1, &form.BA1, &form.Spacing, &form.BA2});
+    {
+        // A probe between these would find treatment 1 without its amount and take the age of
+        // treatment 2 away; the next one has the new units.
+        const HeldBackEvents quiet(run.application);
+        Empty({&form.DBH1, &form.BA1, &form.Spacing, &form.BA2});
+    }
     ApplyStep7(run);
     return true;
 }

@@ -358,6 +358,8 @@ TEST_F(MainFormEvents, ChangingUnitsKeepsTheYears) {
     EXPECT_EQ(form.BA1.Text(), "");
     EXPECT_EQ(form.txtRotAge.Text(), "80");
     EXPECT_EQ(form.Age1.Text(), "40");
+    EXPECT_EQ(form.Age2.Text(), "60");
+    EXPECT_EQ(run.globals.UnitSystem, "Metric") << "until the next commit";
     EXPECT_EQ(form.Step1_Unit.Caption(), "Imperial");
     EXPECT_EQ(running.Level(), 4) << "the site index is gone";
 }
