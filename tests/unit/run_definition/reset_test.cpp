@@ -20,6 +20,9 @@ std::string StateOf(const Control& control) {
         case ControlKind::kOption:
             state << static_cast<const Option&>(control).Value();
             break;
+        case ControlKind::kButton:
+            state << static_cast<const Button&>(control).IsMarked();
+            break;
         case ControlKind::kTextBox:
             state << static_cast<const TextBox&>(control).Text();
             break;
