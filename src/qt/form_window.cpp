@@ -110,7 +110,6 @@ bool FormWindow::Perform(const std::function<void(UserActions&)>& action) {
 void FormWindow::Retire() {
     gone_ = true;
     hide();
-    deleteLater();
 }
 
 void FormWindow::Update(View& view) {
@@ -218,7 +217,7 @@ bool FormWindow::focusNextPrevChild(bool next) {
 // A key that no control took: Enter presses the default button all the same.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return;
+    if (gone_ || (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)) return;
     for (Control* control : form_.Controls()) {
         if (control->Kind() != ControlKind::kButton || !control->Usable()) continue;
         if (!static_cast<Button*>(control)->IsDefault()) continue;

@@ -39,8 +39,9 @@ public:
     /// Runs a person's action; one that is refused does nothing. False where the form is gone, or
     /// the views are just being refreshed.
     bool Perform(const std::function<void(UserActions&)>& action);
-    /// The form is no more: the window hides and waits for its own end.
+    /// The form is no more, or about to go: the window hides and does not look at it again.
     void Retire();
+    bool IsGone() const { return gone_; }
 
     /// Gives the client area a size in twips that reaches the form exactly, whatever the pixels
     /// round to.

@@ -1,13 +1,14 @@
 #include "qt/grid_model.h"
 
+#include "qt/form_window.h"
 #include "qt/texts.h"
 
 #include <algorithm>
 
 namespace arbolith {
 
-GridModel::GridModel(const Grid& grid, QObject* parent)
-    : QAbstractTableModel(parent), grid_(grid) {}
+GridModel::GridModel(const Grid& grid, const FormWindow& window, QObject* parent)
+    : QAbstractTableModel(parent), grid_(grid), window_(window) {}
 
 bool GridModel::Update() {
     const int fixedRows = grid_.FixedRows();
@@ -32,17 +33,19 @@ QModelIndex GridModel::IndexOf(int row, int col) const {
     return index(row - fixedRows_, col - fixedCols_);
 }
 
-// The grid may have shrunk since the last update, which is about to follow.
+// The grid may have gone, or have shrunk since the last update, which is about to follow.
+bool GridModel::Has(int row, int col) const {
+    return !window_.IsGone() && row >= 0 && col >= 0 && row < grid_.Rows() && col < grid_.Cols();
+}
+
 QString GridModel::TextOf(int row, int col) const {
-    if (row < 0 || col < 0 || row >= grid_.Rows() || col >= grid_.Cols()) return {};
-    return ToQString(grid_.Cell(row, col));
+    return Has(row, col) ? ToQString(grid_.Cell(row, col)) : QString();
 }
 
 bool GridModel::IsCentred(const QModelIndex& index) const {
     const int row = GridRow(index);
     const int col = GridCol(index);
-    return row < grid_.Rows() && col < grid_.Cols() &&
-           grid_.GetCellAlignment(row, col) == Grid::CellAlignment::kCentre;
+    return Has(row, col) && grid_.GetCellAlignment(row, col) == Grid::CellAlignment::kCentre;
 }
 
 bool GridModel::HasHeadingTexts() const {

@@ -10,9 +10,12 @@
 
 namespace arbolith {
 
+class FormWindow;
+
 class GridModel final : public QAbstractTableModel {
 public:
-    GridModel(const Grid& grid, QObject* parent);
+    /// Reads the grid for as long as the window's form lives.
+    GridModel(const Grid& grid, const FormWindow& window, QObject* parent);
 
     /// Takes over the grid as it stands. True where its size has changed.
     bool Update();
@@ -33,7 +36,10 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    bool Has(int row, int col) const;
+
     const Grid& grid_;
+    const FormWindow& window_;
     int rows_ = 0;
     int cols_ = 0;
     int fixedRows_ = 0;

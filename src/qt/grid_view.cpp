@@ -69,7 +69,7 @@ GridView::GridView(Grid& grid, FormWindow& window)
     : QTableView(window.InsideOf(grid.Parent())),
       View(grid, window, this),
       grid_(grid),
-      model_(new GridModel(grid, this)) {
+      model_(new GridModel(grid, window, this)) {
     // The state selects, never the view.
     setSelectionMode(NoSelection);
     setEditTriggers(NoEditTriggers);

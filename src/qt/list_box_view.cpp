@@ -15,14 +15,16 @@ namespace {
 // Reads the rows from the list itself.
 class RowsModel final : public QAbstractListModel {
 public:
-    RowsModel(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
+    RowsModel(const ListBox& list, const FormWindow& window, QObject* parent)
+        : QAbstractListModel(parent), list_(list), window_(window) {}
 
     int rowCount(const QModelIndex& parent = {}) const override {
         return parent.isValid() ? 0 : count_;
     }
 
     QVariant data(const QModelIndex& index, int role) const override {
-        if (role != Qt::DisplayRole || index.row() >= list_.ListCount()) return {};
+        if (role != Qt::DisplayRole || window_.IsGone()) return {};
+        if (index.row() >= list_.ListCount()) return {};
         return ToQString(list_.List()[static_cast<std::size_t>(index.row())]);
     }
 
@@ -43,6 +45,7 @@ public:
 
 private:
     const ListBox& list_;
+    const FormWindow& window_;
     int count_ = 0;
 };
 
@@ -52,7 +55,7 @@ public:
         : QListView(window.InsideOf(list.Parent())),
           View(list, window, this),
           list_(list),
-          rows_(new RowsModel(list, this)) {
+          rows_(new RowsModel(list, window, this)) {
         setUniformItemSizes(true);
         setEditTriggers(NoEditTriggers);
         setModel(rows_);
@@ -79,6 +82,12 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid())
             Perform([this](UserActions& actions) { actions.DoubleClick(list_); });
+    }
+
+    // Getting the focus would make the first row the current one.
+    void focusInEvent(QFocusEvent* event) override {
+        QListView::focusInEvent(event);
+        ShowState();
     }
 
     void keyPressEvent(QKeyEvent* event) override {

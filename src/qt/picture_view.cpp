@@ -31,6 +31,7 @@ public:
           picture_(picture) {}
 
     void Refresh() override {
+        caption_ = ToQString(picture_.Caption());
         RefreshWidget();
         update();
     }
@@ -73,10 +74,11 @@ private:
         painter.setFont(large);
         painter.setPen(kInk);
         const QRectF line(0, height() * kTextTop, width(), height() * kTextHeight);
-        painter.drawText(line, Qt::AlignCenter, ToQString(picture_.Caption()));
+        painter.drawText(line, Qt::AlignCenter, caption_);
     }
 
     Picture& picture_;
+    QString caption_;
 };
 
 }  // namespace

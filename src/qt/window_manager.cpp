@@ -30,7 +30,10 @@ WindowManager::WindowManager(Application& application, bool manualTimers)
 
 WindowManager::~WindowManager() {
     application_.onSettled = nullptr;
-    for (const Entry& entry : entries_) delete entry.window;
+    for (const Entry& entry : entries_) {
+        entry.window->Retire();
+        delete entry.window;
+    }
 }
 
 void WindowManager::WhileFlushing(const std::function<void()>& refresh) {
@@ -83,6 +86,8 @@ void WindowManager::RetireLost() {
     std::erase_if(entries_, [&](const Entry& entry) {
         if (std::find(forms.begin(), forms.end(), entry.form) != forms.end()) return false;
         entry.window->Retire();
+        // One of its widgets may have raised the event that this is the end of.
+        entry.window->deleteLater();
         return true;
     });
 }

@@ -234,7 +234,7 @@ private:
             if (!action->isEnabled()) throw ActionRefused(item.Name() + " is shown as disabled");
             const auto* bar = qobject_cast<const QMenuBar*>(&above);
             const QRect place = bar != nullptr ? bar->actionGeometry(action)
-                                               : qobject_cast<QMenu&>(above).actionGeometry(action);
+                                               : dynamic_cast<QMenu&>(above).actionGeometry(action);
             ClickAt(above, place.center());
             return;
         }
