@@ -3,9 +3,11 @@
 #include "form_script/session.h"
 #include "form_script/window_driver.h"
 #include "qt/qt_host.h"
+#include "qt/texts.h"
 #include "qt/window_manager.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QTemporaryFile>
 
 #include <memory>
@@ -59,12 +61,24 @@ private:
     std::unique_ptr<QApplication> application_;
 };
 
+// What a field copies by itself is as good as what the program puts onto the clipboard; what other
+// programs of the desktop copy is none of the run's business.
+void FollowClipboard(QObject& context, Host& host) {
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    const bool isAlone = QGuiApplication::platformName() == QStringLiteral("offscreen");
+    QObject::connect(clipboard, &QClipboard::dataChanged, &context, [=, &host] {
+        if (isAlone || clipboard->ownsClipboard())
+            host.SetClipboardText(FromQString(clipboard->text()));
+    });
+}
+
 /// The windows of a run and what acts on them.
 struct Windows {
     Windows(Application& application, QtHost& toldHost)
         : host(toldHost), manager(application, true) {
         host.SetWindows(&manager);
         driver = MakeWindowDriver(application, manager);
+        FollowClipboard(context, application.GetHost());
     }
     ~Windows() { host.SetWindows(nullptr); }
     Windows(const Windows&) = delete;
@@ -73,6 +87,7 @@ struct Windows {
     QtHost& host;
     WindowManager manager;
     std::unique_ptr<Driver> driver;
+    QObject context;
 };
 
 }  // namespace
