@@ -151,6 +151,13 @@ TEST_F(ApplySteps, Step4ShowsTheClassOrTheSiteIndex) {
     ExpectEnabled({&form.Site, &form.Step4_Site, &form.Step4_lbl1}, true);
 }
 
+TEST_F(ApplySteps, Step4AndStep6SetTheirGuidance) {
+    ApplyStep4(run);
+    EXPECT_EQ(form.Help4.Caption().substr(0, 20), "Enter the Site Index");
+    ApplyStep6(run);
+    EXPECT_EQ(form.Help6.Caption().substr(0, 20), "Enter the length of ");
+}
+
 TEST_F(ApplySteps, Step5ShowsTheStocking) {
     form.Stocking_Index.SetText("7x");
     ApplyStep5(run);
@@ -348,6 +355,8 @@ TEST_F(ApplySteps, AChangeToHardwoodTakesEverythingAlong) {
     bare.Plant("2", "2");
     bare.SelectSpecies("White Pine");
     bare.SelectClass(9);
+    ApplyStep4(run);
+    EXPECT_EQ(form.Step4_Land.Caption(), "9");
     form.Step6_opt1.SetValue(false);
     form.Step6_opt2.SetValue(true);
     form.txtRotDBH.SetText("30");

@@ -50,6 +50,54 @@ TEST_F(MainFormEvents, TheOptionsOfAPairExcludeEachOther) {
     }
 }
 
+TEST_F(MainFormEvents, AnOptionAdjustsTheButtonsAtOnce) {
+    running.EnterSoftwood();
+    running.PressStep(6);
+    person.Click(form.Step6_opt2);
+    EXPECT_EQ(running.Level(), 6);
+    person.Type(form.txtRotDBH, "30");
+    EXPECT_EQ(running.Level(), 8);
+    person.Click(form.Step6_opt1);
+    EXPECT_EQ(running.Level(), 6);
+    person.Type(form.txtRotAge, "80");
+    running.PressStep(4);
+    person.Click(form.choose_Site);
+    EXPECT_EQ(running.Level(), 4);
+    person.Type(form.Site, "17");
+    EXPECT_EQ(running.Level(), 8);
+    person.Click(form.choose_Land);
+    EXPECT_EQ(running.Level(), 4);
+    running.Select(form.Lcap, "6");
+    running.PressStep(2);
+    person.Click(form.chkPlant);
+    EXPECT_EQ(running.Level(), 2);
+    person.Click(form.chkNat);
+    EXPECT_EQ(running.Level(), 8);
+    running.PressStep(1);
+    person.Click(form.Choose_Hwd);
+    EXPECT_EQ(running.Level(), 3);
+    person.Click(form.Choose_Swd);
+    EXPECT_EQ(running.Level(), 3);
+}
+
+TEST_F(MainFormEvents, AChangeToSoftwoodTakesTheLaterStepsAway) {
+    running.EnterHardwood();
+    running.PressStep(1);
+    EXPECT_EQ(running.Level(), 8);
+    person.Click(form.Choose_Swd);
+    EXPECT_EQ(running.Level(), 3) << "no species any more";
+}
+
+TEST_F(MainFormEvents, AChangeOfUnitsAdjustsTheButtonsWithoutAFieldToEmpty) {
+    running.EnterSoftwood();
+    running.PressStep(1);
+    for (Option* units : {&form.choose_Imperial, &form.choose_Metric}) {
+        form.Step7_Btn.SetEnabled(false);
+        person.Click(*units);
+        EXPECT_EQ(running.Level(), 8) << units->Name();
+    }
+}
+
 TEST_F(MainFormEvents, TheKindsOfTreatmentTimeExcludeEachOther) {
     running.EnterSoftwood();
     person.Click(form.Step7_T1DBH);

@@ -124,6 +124,57 @@ TEST_F(StepEngine, StepTwoNeedsNothingOfItsOwn) {
     EXPECT_EQ(Shown(), 2);
 }
 
+TEST_F(StepEngine, AButtonCommitsTheStepsBeforeItsOwn) {
+    running.Press({1, 2});
+    person.Click(form.chkPlant);
+    person.Type(form.spac1, "2");
+    person.Type(form.spac2, "2");
+    EXPECT_TRUE(run.record.NatFlag);
+    running.PressStep(3);
+    EXPECT_TRUE(run.record.PlantFlag);
+    EXPECT_EQ(run.record.FREQ, 2500);
+    running.Select(form.lstSpecies, "Red Pine");
+    EXPECT_EQ(run.record.SPEC, "");
+    running.PressStep(4);
+    EXPECT_EQ(run.record.SPEC, "Red Pine");
+    running.Select(form.Lcap, "6");
+    EXPECT_EQ(run.record.LC, 0);
+    running.PressStep(5);
+    EXPECT_EQ(run.record.LC, 6);
+    person.Type(form.Stocking_Index, "90");
+    EXPECT_EQ(run.record.STK, 0);
+    running.PressStep(6);
+    EXPECT_EQ(run.record.STK, 90);
+    person.Type(form.txtRotAge, "80");
+    EXPECT_EQ(run.record.RAGE, 0);
+    running.PressStep(7);
+    EXPECT_EQ(run.record.RAGE, 80);
+}
+
+TEST_F(StepEngine, AButtonSetsTheGuidanceOfItsStep) {
+    running.EnterSoftwood();
+    for (Label* help : {&form.Help2, &form.Help3, &form.Help4, &form.Help6, &form.Help7})
+        help->SetCaption("old");
+    for (const int step : {2, 3, 4, 6, 7}) {
+        running.PressStep(step);
+        const auto* help = form.Find("Help" + std::to_string(step));
+        EXPECT_NE(help->Caption(), "old") << help->Name();
+    }
+}
+
+TEST_F(StepEngine, TheSeventhButtonProbesTheTreatments) {
+    running.ModelAnswers({{40, 15, 15, 2000, 20}});
+    running.EnterSoftwood();
+    EXPECT_FALSE(form.BA1.Visible());
+    person.Type(form.Age1, "40");
+    EXPECT_TRUE(form.BA1.Visible());
+    running.ModelAnswers({{40, 5, 5, 2000, 20}});
+    host.starts.clear();
+    running.PressStep(7);
+    EXPECT_EQ(host.starts.size(), 1U);
+    EXPECT_FALSE(form.BA1.Visible());
+}
+
 TEST_F(StepEngine, StepsReachedNeverFalls) {
     running.EnterSoftwood();
     for (const int step : {1, 2, 3, 4, 5, 6, 7}) {
