@@ -67,8 +67,12 @@ void Application::Remove(Form& form) {
     std::erase(forms_, &form);
     std::erase(shown_, &form);
     std::erase(activeBefore_, &form);
-    std::erase_if(touched_, [&](Control* control) { return &control->Owner() == &form; });
+    Forget(form);
     if (active_ == &form) active_ = nullptr;
+}
+
+void Application::Forget(Control& control) {
+    std::erase(touched_, &control);
 }
 
 void Application::Touch(Control& control) {

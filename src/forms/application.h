@@ -77,6 +77,7 @@ private:
     void Add(Form& form);
     void Remove(Form& form);
     void Touch(Control& control);
+    void Forget(Control& control);
     void Attempt(const std::function<void()>& work);
     void Deactivate(Form& form);
     static void GiveFocus(Control& control);

@@ -18,14 +18,19 @@ Control::Control(ControlKind kind, Control& parent, std::string name, std::strin
     form_->Add(*this);
 }
 
-Control::Control(std::string name, std::string caption, Place place)
+Control::Control(Form& itself, std::string name, std::string caption, Place place)
     : kind_(ControlKind::kForm),
       name_(std::move(name)),
       parent_(this),
-      form_(static_cast<Form*>(this)),
+      form_(&itself),
       caption_(std::move(caption)),
       place_(place),
       visible_(false) {}
+
+Control::~Control() {
+    // A form takes itself out: its application is out of reach by now.
+    if (kind_ != ControlKind::kForm) App().Forget(*this);
+}
 
 Application& Control::App() const {
     return form_->GetApplication();

@@ -53,7 +53,7 @@ using KeyHandler = std::function<void(int& key)>;
 class Control {
 public:
     Control(ControlKind kind, Control& parent, std::string name, std::string caption, Place place);
-    virtual ~Control() = default;
+    virtual ~Control();
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
@@ -100,8 +100,8 @@ public:
     void Raise(const Handler& handler) const;
 
 protected:
-    /// For a form, which is its own parent.
-    Control(std::string name, std::string caption, Place place);
+    /// For a form, which is its own parent; it isn't made yet, so it is only noted.
+    Control(Form& itself, std::string name, std::string caption, Place place);
 
     Application& App() const;
     /// Tells the views that the state has changed.

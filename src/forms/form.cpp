@@ -8,7 +8,8 @@
 namespace arbolith {
 
 Form::Form(Application& application, std::string name, std::string caption, Size clientSize)
-    : Control(std::move(name), std::move(caption), {0, 0, clientSize.width, clientSize.height}),
+    : Control(*this, std::move(name), std::move(caption),
+              {0, 0, clientSize.width, clientSize.height}),
       application_(application),
       clientSize_(clientSize) {
     application_.Add(*this);
