@@ -122,5 +122,17 @@ TEST_F(OutputTest, HasItsSizeCaptionAndShortcuts) {
     EXPECT_EQ(output.form.YTBH.GetLook().points, 12);
 }
 
+TEST(OutputsEnd, LeavesNoControlForTheViewsToShow) {
+    FakeHost host;
+    Application application(host, "/nowhere", "");
+    {
+        Output output(application);
+        output.form.SetCaption("changed");
+        output.form.Title.SetCaption("changed");
+        EXPECT_TRUE(application.HasTouched());
+    }
+    EXPECT_FALSE(application.HasTouched());
+}
+
 }  // namespace
 }  // namespace arbolith
