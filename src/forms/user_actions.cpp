@@ -134,6 +134,9 @@ void UserActions::Click(Control& control) {
 
 void UserActions::DoubleClick(Control& control) {
     Approach(control);
+    const auto* list = dynamic_cast<const ListBox*>(&control);
+    if (list != nullptr && list->ListIndex() == -1)
+        throw ActionRefused(control.Name() + " has no selected row");
     application_.Enter([&] { control.Raise(control.onDoubleClick); });
 }
 

@@ -59,7 +59,9 @@ TEST_F(ActionsTest, ActOnFormsGridsAndTimers) {
 
 TEST_F(ActionsTest, DoubleClickARow) {
     list.onDoubleClick = [this] { ++count; };
-    EXPECT_TRUE(Run("doubleclick lst\nexpect var Count 1\n")) << errors.str();
+    list.AddItem("one");
+    EXPECT_NE(Failure("doubleclick lst\n").find("lst has no selected row"), std::string::npos);
+    EXPECT_TRUE(Run("select lst 0\ndoubleclick lst\nexpect var Count 1\n")) << errors.str();
 }
 
 TEST_F(ActionsTest, FailWhereAPersonCouldNotAct) {
