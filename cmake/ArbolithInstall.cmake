@@ -1,11 +1,13 @@
 # `cmake --install build/release --prefix DIR` makes DIR a portable folder: the program, the models
-# and what belongs to them side by side, since the program looks for its models in its own folder and
-# works there. Nothing in it names another place of its own, so DIR may be moved. The Qt libraries are
-# the system's.
+# and what belongs to them side by side, since the program looks for its models in its own folder
+# and works there. Nothing in it names another place of its own, so DIR may be moved. The Qt
+# libraries are the system's.
 
 if(TARGET arbolith)
   install(TARGETS arbolith swqvl hwqvl RUNTIME DESTINATION .)
   install(FILES README.md LICENSE CHANGELOG.md DESTINATION .)
-  install(FILES docs/growth-models.md DESTINATION docs OPTIONAL)
+  if(EXISTS ${CMAKE_SOURCE_DIR}/docs/growth-models.md)
+    install(FILES docs/growth-models.md DESTINATION docs)
+  endif()
   install(DIRECTORY samples DESTINATION .)
 endif()
