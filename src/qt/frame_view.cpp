@@ -21,19 +21,9 @@ public:
     }
 
 protected:
-    // What the frame has no use for goes on to the frame around it.
-    void mousePressEvent(QMouseEvent* event) override {
-        event->setAccepted(frame_.onClick || frame_.onDoubleClick);
-    }
-    void mouseReleaseEvent(QMouseEvent* event) override {
-        if (event->button() == Qt::LeftButton && this->rect().contains(event->pos()))
-            Perform([this](UserActions& actions) { actions.Click(frame_); });
-    }
-    void mouseDoubleClickEvent(QMouseEvent* event) override {
-        mousePressEvent(event);
-        if (event->button() == Qt::LeftButton && event->isAccepted())
-            Perform([this](UserActions& actions) { actions.DoubleClick(frame_); });
-    }
+    void mousePressEvent(QMouseEvent* event) override { PassMouse(*event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { PassMouse(*event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { PassMouse(*event); }
 
     Frame& frame_;
 };

@@ -46,19 +46,9 @@ public:
     }
 
 protected:
-    // What the label has no use for goes on to the frame around it.
-    void mousePressEvent(QMouseEvent* event) override {
-        event->setAccepted(label_.onClick || label_.onDoubleClick);
-    }
-    void mouseReleaseEvent(QMouseEvent* event) override {
-        if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
-            Perform([this](UserActions& actions) { actions.Click(label_); });
-    }
-    void mouseDoubleClickEvent(QMouseEvent* event) override {
-        mousePressEvent(event);
-        if (event->button() == Qt::LeftButton && event->isAccepted())
-            Perform([this](UserActions& actions) { actions.DoubleClick(label_); });
-    }
+    void mousePressEvent(QMouseEvent* event) override { PassMouse(*event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { PassMouse(*event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { PassMouse(*event); }
 
 private:
     void RefreshFont() {

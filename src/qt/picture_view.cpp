@@ -48,14 +48,9 @@ protected:
         PaintCaption(painter);
     }
 
-    // What the picture has no use for goes on to the frame around it.
-    void mousePressEvent(QMouseEvent* event) override {
-        event->setAccepted(picture_.onClick != nullptr);
-    }
-    void mouseReleaseEvent(QMouseEvent* event) override {
-        if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
-            Perform([this](UserActions& actions) { actions.Click(picture_); });
-    }
+    void mousePressEvent(QMouseEvent* event) override { PassMouse(*event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { PassMouse(*event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { PassMouse(*event); }
 
 private:
     void PaintGround(QPainter& painter) const {

@@ -56,6 +56,15 @@ void View::ShowState() {
     window_.Update(*this);
 }
 
+void View::PassMouse(QMouseEvent& event) {
+    event.setAccepted(!window_.IsGone() && (control_.onClick || control_.onDoubleClick));
+    if (!event.isAccepted() || event.button() != Qt::LeftButton) return;
+    if (event.type() == QEvent::MouseButtonDblClick)
+        Perform([this](UserActions& actions) { actions.DoubleClick(control_); });
+    if (event.type() == QEvent::MouseButtonRelease && widget_->rect().contains(event.pos()))
+        Perform([this](UserActions& actions) { actions.Click(control_); });
+}
+
 bool View::PassKey(const QKeyEvent& event) {
     const auto key = KeyOf(event);
     if (!key || key->name == Key::kTab || key->name == Key::kBackTab) return false;

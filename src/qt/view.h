@@ -39,6 +39,9 @@ protected:
     bool Perform(const std::function<void(UserActions&)>& action);
     /// Refreshes after the widget has changed by itself.
     void ShowState();
+    /// Passes a mouse event on to a control that can be clicked without taking the focus. What the
+    /// control has no use for goes on to the frame around it.
+    void PassMouse(QMouseEvent& event);
     /// Passes a key on to the control; false for a key that is no business of the control.
     bool PassKey(const QKeyEvent& event);
     /// Place, name, visible and enabled.

@@ -1,0 +1,32 @@
+// Runs the tests of the windows with the toolkit up, on a screen in memory that is large enough for
+// every form also at the double resolution.
+#include <QApplication>
+#include <QTemporaryFile>
+
+#include <cstdio>
+#include <gtest/gtest.h>
+
+namespace {
+
+// The platform in memory complains about what it leaves to real ones.
+void DropPlatformComplaints(QtMsgType, const QMessageLogContext&, const QString& message) {
+    if (!message.startsWith("This plugin does not support"))
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    QTemporaryFile screen;
+    if (qgetenv("QT_QPA_PLATFORM") == "offscreen" && screen.open()) {
+        screen.write(R"({"screens": [{"name": "memory", "x": 0, "y": 0, "width": 3200,
+            "height": 2400, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+        screen.flush();
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
+    }
+    qInstallMessageHandler(DropPlatformComplaints);
+    QApplication toolkit(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

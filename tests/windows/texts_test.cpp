@@ -1,0 +1,30 @@
+#include "qt/texts.h"
+
+#include <gtest/gtest.h>
+
+namespace arbolith {
+
+TEST(Texts, EveryByteComesBack) {
+    std::string all;
+    for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+    EXPECT_EQ(FromQString(ToQString(all)), all);
+}
+
+TEST(Texts, CharactersOfTheCodePageKeepTheirMeaning) {
+    EXPECT_EQ(ToQString("m\xB2/ha \x80"), QString::fromUtf8("m²/ha €"));
+}
+
+TEST(Texts, WhatTheCodePageLacksIsAQuestionMark) {
+    EXPECT_EQ(FromQString(QString::fromUtf8("a→b")), "a?b");
+}
+
+TEST(Texts, ACharacterOfTwoUnitsIsOneQuestionMark) {
+    EXPECT_EQ(FromQString(QString::fromUtf8("a🌲b")), "a?b");
+}
+
+TEST(Texts, TheAccessKeysMarkIsTakenOut) {
+    EXPECT_EQ(WithoutAccessKey("B.&A. Reduction"), "B.A. Reduction");
+    EXPECT_EQ(WithoutAccessKey("Save && go"), "Save & go");
+}
+
+}  // namespace arbolith
