@@ -9,8 +9,6 @@
 
 #include <cstring>
 #include <filesystem>
-#include <sys/resource.h>
-
 namespace arbolith::bench {
 
 namespace {
@@ -33,15 +31,6 @@ struct HeadlessProgram {
     Program program;
     UserActions user;
 };
-
-double ProcessorSeconds() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    const auto seconds = [](const timeval& t) {
-        return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) * 1e-6;
-    };
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
-}
 
 double RunRatio() {
     const ApplicationFolder folder;

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <functional>
 #include <string>
+#include <sys/resource.h>
 #include <vector>
 
 namespace arbolith::bench {
@@ -19,6 +20,16 @@ inline double Seconds(const std::function<void()>& something) {
     const auto start = std::chrono::steady_clock::now();
     something();
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// The processor time that this process has taken so far, in seconds.
+inline double ProcessorSeconds() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    const auto seconds = [](const timeval& t) {
+        return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) * 1e-6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
 inline double Median(std::vector<double> values) {

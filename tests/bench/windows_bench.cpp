@@ -19,8 +19,6 @@
 
 #include <cstring>
 #include <filesystem>
-#include <sys/resource.h>
-
 namespace arbolith::bench {
 
 namespace {
@@ -92,15 +90,6 @@ double RunRatio() {
                 QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         },
         [&] { ExchangeBare(folder.Path(), "SWQVL.exe", kWhitePineLine); });
-}
-
-double ProcessorSeconds() {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    const auto seconds = [](const timeval& t) {
-        return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_usec) * 1e-6;
-    };
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
 // Processor time of a run with a model of five seconds over that of an event loop of five seconds,
