@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTableView>
+#include <QTest>
 
 #include <filesystem>
 #include <vector>
@@ -139,6 +140,12 @@ public:
     void Resize(Form& form, Size clientSize) override {
         WindowToUse(form).RequestClientSize(clientSize);
         Settle();
+        // A window manager may first report the size before.
+        const bool hasSize = QTest::qWaitFor([&] {
+            const Size size = form.ClientSize();
+            return size.width == clientSize.width && size.height == clientSize.height;
+        });
+        if (!hasSize) throw ActionRefused(form.Name() + " keeps another size");
     }
 
     void Close(Form& form) override {
@@ -182,10 +189,19 @@ private:
 
     FormWindow& WindowToUse(Form& form) const {
         RequireUsable(form);
+        AwaitActiveForm();
         FormWindow* window = windows_.WindowOf(form);
         if (window == nullptr || !window->isVisible())
             throw ActionRefused(form.Name() + " has no window that shows");
         return *window;
+    }
+
+    // A window that the last action has shown may still be on its way to the front; a person waits
+    // to see it there.
+    void AwaitActiveForm() const {
+        const Form* active = application_.ActiveForm();
+        FormWindow* window = active == nullptr ? nullptr : windows_.WindowOf(*active);
+        if (window != nullptr && window->isVisible()) ActivateWindowOf(*window);
     }
 
     // The control's widget in its window, which becomes the active one.

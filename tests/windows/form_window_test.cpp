@@ -145,12 +145,11 @@ TEST_F(FormWindowTest, MaximisingGoesBothWays) {
     Open(form);
     Do([&] { form.SetState(WindowState::kMaximised); });
     EXPECT_TRUE(WindowOf(form).isMaximized());
-    window_events::Settle();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.ClientSize().width > 6000; }));
     EXPECT_EQ(form.ClientSize().width, WindowOf(form).width() * 15);
     WindowOf(form).showNormal();
-    window_events::Settle();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form.ClientSize().width == 6000; }));
     EXPECT_EQ(form.State(), WindowState::kNormal);
-    EXPECT_EQ(form.ClientSize().width, 6000);
 }
 
 TEST_F(FormWindowTest, ThePlaceOnTheScreenIsTold) {
