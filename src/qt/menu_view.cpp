@@ -41,7 +41,8 @@ public:
     }
 
     void Refresh() override {
-        const QString caption = ToQString(item_.Caption());
+        // A separator with a text would be drawn as a heading.
+        const QString caption = item_.IsSeparator() ? QString() : ToQString(item_.Caption());
         if (action_->text() != caption) action_->setText(caption);
         action_->setEnabled(item_.Enabled());
         action_->setVisible(item_.Visible());

@@ -98,7 +98,10 @@ TEST_F(MenuTest, OnlyTheStateChecksAnEntry) {
 }
 
 TEST_F(MenuTest, ASeparatorIsALine) {
-    EXPECT_TRUE(WindowOf(form).findChild<QAction*>("line")->isSeparator());
+    const auto* line = WindowOf(form).findChild<QAction*>("line");
+    EXPECT_TRUE(line->isSeparator());
+    EXPECT_EQ(line->text(), "");
+    EXPECT_EQ(driver->Shown(form.line, "Caption"), "-");
 }
 
 TEST_F(MenuTest, AnAccessKeyOpensAMenuAndItsEntry) {
