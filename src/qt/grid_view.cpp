@@ -133,8 +133,8 @@ void GridView::RefreshSizes() {
 }
 
 void GridView::RefreshSelection() {
-    const auto [top, bottom] = std::minmax(grid_.Row(), grid_.RowSel());
-    const auto [left, right] = std::minmax(grid_.Col(), grid_.ColSel());
+    const auto [top, bottom] = std::minmax({grid_.Row(), grid_.RowSel()});
+    const auto [left, right] = std::minmax({grid_.Col(), grid_.ColSel()});
     const QItemSelection wanted(model_->IndexOf(top, left), model_->IndexOf(bottom, right));
     selectionModel()->setCurrentIndex(model_->IndexOf(grid_.Row(), grid_.Col()),
                                       QItemSelectionModel::NoUpdate);
