@@ -5,7 +5,9 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <filesystem>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -50,6 +52,14 @@ ErrorNumber NumberOfSystemError(int systemError, const std::string& path) {
     }
 }
 
+// An output file is overwritten in place and cut at its new end when it is closed. Emptying it
+// first would make some file systems write it out at the close, which takes longer than a model
+// does.
+std::FILE* OpenToOverwrite(const std::string& path) {
+    const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    return descriptor == -1 ? nullptr : fdopen(descriptor, "wb");
+}
+
 bool NameCanBeCreated(const std::string& path) {
     const auto name = std::filesystem::path(path).filename().string();
     return name.find_first_of("?\":*|<>") == std::string::npos;
@@ -61,14 +71,16 @@ bool NameCanBeCreated(const std::string& path) {
 /// taken.
 class NumberedFiles::File {
 public:
-    File(const std::string& path, const char* mode)
-        : path_(path), stream_(std::fopen(path.c_str(), mode)) {
+    File(const std::string& path, Use use)
+        : path_(path), stream_(OpenStream(path, use)), use_(use) {
         if (stream_ == nullptr) throw RuntimeError(NumberOfSystemError(errno, path));
         std::setvbuf(stream_, nullptr, _IONBF, 0);
         buffer_.reserve(kBufferSize);
     }
     ~File() {
-        if (stream_ != nullptr) std::fclose(stream_);
+        if (stream_ == nullptr) return;
+        CutBehindText();
+        std::fclose(stream_);
     }
     File(const File&) = delete;
     File& operator=(const File&) = delete;
@@ -81,13 +93,14 @@ public:
         const auto pending = std::exchange(buffer_, {});
         if (std::fwrite(pending.data(), 1, pending.size(), stream_) != pending.size())
             throw RuntimeError(NumberOfSystemError(errno, path_));
+        written_ += pending.size();
     }
     void Finish() {
-        if (writing_) Flush();
+        if (use_ != Use::kInput) Flush();
+        CutBehindText();
         auto* stream = std::exchange(stream_, nullptr);
         if (std::fclose(stream) != 0) throw RuntimeError(NumberOfSystemError(errno, path_));
     }
-    void MarkAsWritten() { writing_ = true; }
 
     int Peek() {
         if (position_ == buffer_.size()) Refill();
@@ -98,6 +111,24 @@ public:
     std::string& Token() { return token_; }
 
 private:
+    static std::FILE* OpenStream(const std::string& path, Use use) {
+        switch (use) {
+            case Use::kInput:
+                return std::fopen(path.c_str(), "rbe");
+            case Use::kAppend:
+                return std::fopen(path.c_str(), "abe");
+            case Use::kOutput:
+                return OpenToOverwrite(path);
+        }
+        return nullptr;
+    }
+
+    // Takes away what an earlier, longer text left. A device has nothing to cut.
+    void CutBehindText() {
+        if (use_ == Use::kOutput && ftruncate(fileno(stream_), static_cast<off_t>(written_)) != 0)
+            errno = 0;
+    }
+
     void Refill() {
         buffer_.resize(kBufferSize);
         const auto count = std::fread(buffer_.data(), 1, kBufferSize, stream_);
@@ -112,34 +143,33 @@ private:
     std::vector<char> buffer_;
     std::size_t position_ = 0;
     std::string token_;
-    bool writing_ = false;
+    Use use_;
+    std::size_t written_ = 0;
 };
 
 NumberedFiles::NumberedFiles() = default;
 NumberedFiles::~NumberedFiles() = default;
 
-void NumberedFiles::Open(int number, const std::string& path, const char* mode) {
+void NumberedFiles::Open(int number, const std::string& path, Use use) {
     if (files_.contains(number)) throw RuntimeError(ErrorNumber::kFileAlreadyOpen);
     std::error_code ignored;
     if (path.empty() || std::filesystem::is_directory(path, ignored))
         throw RuntimeError(ErrorNumber::kPathFileAccess);
-    files_.emplace(number, std::make_unique<File>(path, mode));
+    files_.emplace(number, std::make_unique<File>(path, use));
 }
 
 void NumberedFiles::OpenForInput(int number, const std::string& path) {
-    Open(number, path, "rbe");
+    Open(number, path, Use::kInput);
 }
 
 void NumberedFiles::OpenForOutput(int number, const std::string& path) {
     if (!NameCanBeCreated(path)) throw RuntimeError(ErrorNumber::kBadFileName);
-    Open(number, path, "wbe");
-    files_[number]->MarkAsWritten();
+    Open(number, path, Use::kOutput);
 }
 
 void NumberedFiles::OpenForAppend(int number, const std::string& path) {
     if (!NameCanBeCreated(path)) throw RuntimeError(ErrorNumber::kBadFileName);
-    Open(number, path, "abe");
-    files_[number]->MarkAsWritten();
+    Open(number, path, Use::kAppend);
 }
 
 NumberedFiles::File& NumberedFiles::Opened(int number) {

@@ -46,8 +46,9 @@ public:
 
 private:
     class File;
+    enum class Use { kInput, kOutput, kAppend };
     File& Opened(int number);
-    void Open(int number, const std::string& path, const char* mode);
+    void Open(int number, const std::string& path, Use use);
 
     std::map<int, std::unique_ptr<File>> files_;
 };
