@@ -15,7 +15,7 @@ namespace arbolith {
 
 namespace {
 
-constexpr std::size_t kBufferSize = 64 * 1024;
+constexpr std::size_t kBufferSize = 65536;
 // What runs on for longer is no number of a model, and may not end at all.
 constexpr std::size_t kLongestToken = 1000;
 
