@@ -38,12 +38,11 @@ protected:
     }
 
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Space) {
-            Base::keyPressEvent(event);
-        } else if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
+        if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right) {
             const Key key{event->key() == Qt::Key_Left ? Key::kUp : Key::kDown};
             Perform([&](UserActions& actions) { actions.Press(choice_, key); });
-        } else if (!PassKey(*event)) {
+        } else if (event->key() == Qt::Key_Space || !PassKey(*event)) {
+            // The space bar presses and lets go, as on a button.
             Base::keyPressEvent(event);
         }
     }

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -149,8 +150,8 @@ void FormWindow::RefreshSize() {
     const bool isNormal = StateOf(windowState()) == WindowState::kNormal;
     if (!isNormal || inside_->size() == told) return;
     const QSize wanted(told.width(), told.height() + MenuHeight(told.width()));
-    const QSize largest = screen()->availableGeometry().size();
-    resize(wanted.boundedTo(largest));
+    const QSize title(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    resize(wanted.boundedTo(screen()->availableGeometry().size() - title));
 }
 
 // The place is told for the told size: a window that is larger keeps its middle there.

@@ -32,13 +32,13 @@ public:
         setAlignment(AlignmentOf(label.GetLook()));
         setWordWrap(label.GetLook().wraps);
         if (label.GetLook().link) setCursor(Qt::PointingHandCursor);
-        RefreshFont();
     }
 
     void Refresh() override {
         const QString caption = ToQString(label_.Caption());
         if (text() != caption) setText(caption);
         FindBuddy(caption);
+        RefreshFont();
         RefreshWidget();
         if (label_.GetLook().link)
             setForegroundRole(isEnabled() ? QPalette::Link : QPalette::WindowText);
@@ -59,7 +59,7 @@ private:
         if (look.points != 0) told.setPointSizeF(look.points * Scale::FontFactor(told));
         told.setBold(look.bold);
         told.setUnderline(look.link);
-        setFont(told);
+        if (font() != told) setFont(told);
     }
 
     // Only with a buddy does a label take its access key out of its text.

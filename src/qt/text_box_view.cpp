@@ -39,19 +39,12 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override {
         const auto key = KeyOf(*event);
-        if (!key || key->name == Key::kSelectAll) {
+        if (!key || IsCommand(*key, event->modifiers())) {
             QLineEdit::keyPressEvent(event);
         } else if (key->name == Key::kBackspace) {
             if (Accepts(kBackspaceCode)) QLineEdit::keyPressEvent(event);
         } else if (key->name == Key::kCharacter || key->name == Key::kSpace) {
-            if (!Accepts(key->character)) return;
-            // What the program has no character for is taken as a question mark.
-            if (key->character == '?')
-                insert(QStringLiteral("?"));
-            else
-                QLineEdit::keyPressEvent(event);
-        } else if (key->name == Key::kDelete && event->modifiers() & Qt::ShiftModifier) {
-            QLineEdit::keyPressEvent(event);
+            if (Accepts(key->character)) Put(*key, event);
         } else {
             keepsUndo_ = true;
             PassKey(*event);
@@ -90,6 +83,21 @@ protected:
     }
 
 private:
+    // What the editor does best by itself: selecting all, and cutting.
+    static bool IsCommand(Key key, Qt::KeyboardModifiers modifiers) {
+        return key.name == Key::kSelectAll ||
+               (key.name == Key::kDelete && modifiers.testFlag(Qt::ShiftModifier));
+    }
+
+    // What the program has no character for goes in as the question mark that stands for it.
+    void Put(Key key, QKeyEvent* event) {
+        if (key.character == '?') {
+            insert(QStringLiteral("?"));
+        } else {
+            QLineEdit::keyPressEvent(event);
+        }
+    }
+
     bool Accepts(unsigned char character) {
         bool accepts = false;
         Perform([&](UserActions& actions) { accepts = actions.AcceptsKey(box_, character); });

@@ -26,9 +26,14 @@ bool Labels(const Control& control) {
            !control.Caption().empty();
 }
 
+bool IsField(const Control& control) {
+    return control.TakesFocus() || control.Kind() == ControlKind::kProgressBar;
+}
+
 // The caption, or for a field without one that of the label before it in the same frame.
 std::string AccessibleNameOf(const Control& control) {
     if (!control.Caption().empty()) return control.Caption();
+    if (!IsField(control)) return control.Name();
     const Control* label = nullptr;
     for (const Control* other : control.Owner().Controls()) {
         if (other == &control) break;

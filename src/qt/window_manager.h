@@ -16,8 +16,8 @@ class FormWindow;
 
 class WindowManager {
 public:
-    /// Follows the application from here on; it must live longer. With manual timers the forms'
-    /// timers never fire by themselves.
+    /// Follows the application from here on; it must live longer. With manual timers, as scripts
+    /// need them, the forms' timers never fire by themselves, and nobody leaves and comes back.
     explicit WindowManager(Application& application, bool manualTimers = false);
     ~WindowManager();
     WindowManager(const WindowManager&) = delete;

@@ -1,6 +1,7 @@
 #include "window_test.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPushButton>
 
 namespace arbolith {
@@ -23,6 +24,7 @@ struct ButtonForm : Form {
 
     Button button;
     Button below;
+    Label heading{*this, "heading", "Heading", {120, 0, 3000, 375}, {.points = 12}};
 };
 
 }  // namespace
@@ -63,7 +65,9 @@ TEST_F(ScaleTest, AnOpenFormFollowsTheFont) {
     Open(form);
     auto& window = WindowOf(form);
     const int before = WidgetOf<QPushButton>(form.button).width();
+    const double heading = WidgetOf<QLabel>(form.heading).font().pointSizeF();
     window.setFont(FontOf(2));
+    EXPECT_NEAR(WidgetOf<QLabel>(form.heading).font().pointSizeF(), 2 * heading, 1.5);
     EXPECT_GT(WidgetOf<QPushButton>(form.button).width(), before * 3 / 2);
     EXPECT_EQ(form.ClientSize().width, 9000);
 }
