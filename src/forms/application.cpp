@@ -10,6 +10,28 @@
 
 namespace arbolith {
 
+namespace {
+
+bool IsUsableOptionOf(const Control& control, const Control& frame) {
+    return control.Kind() == ControlKind::kOption && &control.Parent() == &frame &&
+           control.Usable();
+}
+
+// Of the options in one frame only the one that is on is a stop of the Tab key, as on any desktop:
+// the arrow keys go to the others. From one of them Tab leaves the frame's options altogether.
+bool IsLeftToArrowKeys(const Control& control, const Control& from) {
+    if (control.Kind() != ControlKind::kOption) return false;
+    if (IsUsableOptionOf(from, control.Parent())) return true;
+    if (static_cast<const Option&>(control).Value()) return false;
+    const auto& controls = control.Owner().Controls();
+    return std::any_of(controls.begin(), controls.end(), [&](const Control* other) {
+        return IsUsableOptionOf(*other, control.Parent()) &&
+               static_cast<const Option*>(other)->Value();
+    });
+}
+
+}  // namespace
+
 Application::Application(Host& host, std::string folder, std::string commandLine)
     : host_(host), folder_(std::move(folder)), commandLine_(std::move(commandLine)) {}
 
@@ -144,7 +166,7 @@ Control* Application::NextInTabOrder(const Control& from, bool forward) {
                                                 controls.begin());
     for (std::size_t step = 1; step < count; ++step) {
         Control* next = controls[(forward ? start + step : start + count - step) % count];
-        if (next->TakesFocus() && next->Usable()) return next;
+        if (next->TakesFocus() && next->Usable() && !IsLeftToArrowKeys(*next, from)) return next;
     }
     return nullptr;
 }

@@ -57,7 +57,8 @@ public:
     /// Moves the focus to a control that is showing and enabled, with the events of both;
     /// otherwise, and where it has the focus already, does nothing.
     void SetFocus(Control& control);
-    /// The next (or previous) control in the tab order that can take the focus; null for none.
+    /// The next (or previous) control in the tab order that can take the focus; null for none. Of
+    /// the options in one frame only the one that is on counts.
     static Control* NextInTabOrder(const Control& from, bool forward);
     /// The first control of a form that can take the focus; null for none.
     static Control* FirstInTabOrder(const Form& form);

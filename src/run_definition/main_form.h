@@ -173,10 +173,10 @@ struct MainForm : Form {
         HelpFrame, "NSpruceHelp", "More Information", {240, 2640, 2400, 285}, {.link = true}};
     Label Help4a{HelpFrame, "Help4a", "Goto Manual Now", {240, 2640, 2400, 285}, {.link = true}};
 
-    Button CancelAppend{Qvly, "CancelAppend", "Cancel", {8400, 8280, 1680, 600}};
-    Button Clear{Qvly, "Clear", "Clear Input", {10200, 8280, 1680, 600}};
     Button Append_Btn{Qvly, "Append_Btn", "Append To Batch", {12000, 8280, 2040, 600}};
     Button Run{Qvly, "Run", "Run", {12000, 8280, 2040, 600}};
+    Button CancelAppend{Qvly, "CancelAppend", "Cancel", {8400, 8280, 1680, 600}};
+    Button Clear{Qvly, "Clear", "Clear Input", {10200, 8280, 1680, 600}};
 };
 
 }  // namespace arbolith

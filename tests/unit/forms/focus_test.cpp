@@ -102,6 +102,23 @@ TEST_F(FocusTest, RunsThroughTheTabOrderRoundTheEnds) {
     EXPECT_EQ(Application::FirstInTabOrder(form), nullptr);
 }
 
+TEST_F(FocusTest, StopsOnlyAtTheOptionThatIsOn) {
+    Frame group(form, "group");
+    Option off(group, "off");
+    Option on(group, "on");
+    Option alsoOff(group, "alsoOff");
+    on.SetValue(true);
+    EXPECT_EQ(Application::NextInTabOrder(three, true), &on);
+    EXPECT_EQ(Application::NextInTabOrder(on, true), &one) << "past the options that are off";
+    EXPECT_EQ(Application::NextInTabOrder(one, false), &on);
+    on.SetValue(false);
+    EXPECT_EQ(Application::NextInTabOrder(three, true), &off) << "none is on";
+    EXPECT_EQ(Application::NextInTabOrder(off, true), &one);
+    off.SetValue(true);
+    off.SetEnabled(false);
+    EXPECT_EQ(Application::NextInTabOrder(three, true), &on) << "the one that is on can't be used";
+}
+
 TEST_F(FocusTest, PassesOnFromAControlThatAnEventDisables) {
     application.SetFocus(one);
     TakeLog();
