@@ -60,6 +60,7 @@ public:
     Label& Title() override { return form.Title; }
     Label& YTBH() override { return form.YTBH; }
     void SetReportTexts(const std::string& ytbh, const std::string& runLine) override;
+    /// Nothing yet: the graphs are to come, and their buttons stand disabled.
     void EnableGraphs() override {}
     void CopySelection() override { Copy_Mnu_Click(); }
 
