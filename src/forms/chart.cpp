@@ -1,7 +1,10 @@
 #include "forms/chart.h"
 
+#include "platform/numbers.h"
 #include "platform/runtime_error.h"
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace arbolith {
@@ -25,6 +28,18 @@ void Chart::CheckColumn(int column) const {
     if (column < 1 || column > ColumnCount()) throw RuntimeError(ErrorNumber::kSubscript);
 }
 
+void Chart::ResetToDefaults() {
+    type_ = Type::kXyScatter;
+    columnLabels_.clear();
+    rowLabels_.clear();
+    data_.clear();
+    axes_ = {};
+    title_ = {};
+    legend_ = {};
+    decoration_ = {};
+    Touch();
+}
+
 void Chart::SetChartType(Type type) {
     type_ = type;
     Touch();
@@ -36,6 +51,20 @@ void Chart::SetSize(int rows, int columns) {
     columnLabels_.resize(static_cast<std::size_t>(columns));
     data_.resize(static_cast<std::size_t>(rows));
     for (auto& row : data_) row.resize(static_cast<std::size_t>(columns));
+    Touch();
+}
+
+void Chart::SetChartData(const std::vector<std::vector<std::string>>& rows) {
+    if (rows.empty()) throw RuntimeError(ErrorNumber::kInvalidCall);
+    columnLabels_ = rows.front();
+    rowLabels_.assign(rows.size() - 1, "");
+    data_.assign(rows.size() - 1, std::vector<double>(columnLabels_.size()));
+    for (std::size_t row = 0; row < data_.size(); ++row) {
+        if (rows[row + 1].size() != columnLabels_.size())
+            throw RuntimeError(ErrorNumber::kInvalidCall);
+        std::transform(rows[row + 1].begin(), rows[row + 1].end(), data_[row].begin(),
+                       [](const std::string& text) { return Val(text); });
+    }
     Touch();
 }
 
@@ -75,24 +104,63 @@ void Chart::SetRowLabel(int row, const std::string& label) {
 }
 
 const ChartAxis& Chart::Axis(int axis) const {
-    if (axis != kAxisX && axis != kAxisY) throw RuntimeError(ErrorNumber::kSubscript);
+    if (axis < 0 || axis >= kAxes) throw RuntimeError(ErrorNumber::kSubscript);
     return axes_[static_cast<std::size_t>(axis)];
 }
 
 void Chart::SetAxis(int axis, const ChartAxis& values) {
-    if (axis != kAxisX && axis != kAxisY) throw RuntimeError(ErrorNumber::kSubscript);
+    if (Axis(axis) == values) return;
     axes_[static_cast<std::size_t>(axis)] = values;
     Touch();
 }
 
-void Chart::SetTitle(const std::string& title) {
+double Chart::Minimum(int axis) const {
+    return Axis(axis).Scale.Minimum.value_or(DrawnScale(axis).minimum);
+}
+
+double Chart::Maximum(int axis) const {
+    return Axis(axis).Scale.Maximum.value_or(DrawnScale(axis).maximum);
+}
+
+AxisScale Chart::DrawnScale(int axis) const {
+    const auto& told = Axis(axis).Scale;
+    const bool isXy = type_ == Type::kXyScatter;
+    // The X axis of bars counts its rows; that of a scatter chart reads every other column.
+    if (axis != kAxisY && !isXy) return DrawnScaleOf(told, 0, RowCount());
+    double lowest = std::numeric_limits<double>::infinity();
+    double highest = -lowest;
+    const int step = isXy ? 2 : 1;
+    const int first = isXy && axis == kAxisY ? 2 : 1;
+    for (const auto& row : data_)
+        for (int column = first; column <= ColumnCount(); column += step) {
+            lowest = std::min(lowest, row[At(column)]);
+            highest = std::max(highest, row[At(column)]);
+        }
+    return DrawnScaleOf(told, lowest, highest);
+}
+
+void Chart::SetTitle(const ChartTitle& title) {
+    if (title_ == title) return;
     title_ = title;
     Touch();
 }
 
-void Chart::SetLegendVisible(bool visible) {
-    legendVisible_ = visible;
+void Chart::SetLegend(const ChartLegend& legend) {
+    if (legend_ == legend) return;
+    legend_ = legend;
     Touch();
+}
+
+void Chart::SetDecoration(const ChartDecoration& decoration) {
+    if (decoration_ == decoration) return;
+    decoration_ = decoration;
+    Touch();
+}
+
+bool Chart::HasPoint(int series, int point) const {
+    if (point < 1 || point > RowCount() || series < 1) return false;
+    return type_ == Type::kBar2d ? series <= ColumnCount()
+                                 : series % 2 == 1 && series < ColumnCount();
 }
 
 }  // namespace arbolith

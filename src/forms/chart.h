@@ -1,38 +1,79 @@
-// The chart as data: series in columns, points in rows, and what is told of its axes, titles and
-// legend. Drawing it is a view's business.
+// The chart as data: series in columns, points in rows, and what is told of its axes, titles, grid
+// and legend. Drawing it is a view's business. Numbers of kinds and styles are the control's codes.
 #pragma once
 
+#include "forms/axis_scale.h"
 #include "forms/control.h"
 
 #include <array>
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace arbolith {
 
 enum class PenStyle { kNone = 0, kSolid = 1, kDashed = 2, kDotted = 3 };
+enum class FillStyle { kNone = 0, kBrush = 1 };
+enum class ChartLocation { kTop = 1, kBottomRight = 7 };
 
-/// Scale, title and grid lines of one axis. Explicit values are kept also while the scale is
-/// automatic.
-struct ChartAxis {
-    std::string Title;
-    bool Auto = true;
-    double Minimum = 0;
-    double Maximum = 0;
-    int MajorDivision = 5;
-    int MinorDivision = 1;
-    PenStyle MajorPen = PenStyle::kNone;
-    PenStyle MinorPen = PenStyle::kNone;
+struct ChartFont {
+    std::string Name = "Arial";
+    int Size = 10;   ///< Points.
+    int Effect = 0;  ///< The control's code; 1 changes nothing that is seen.
+
+    bool operator==(const ChartFont&) const = default;
 };
 
-/// Columns and rows are counted from 1.
+/// Scale, title and grid lines of one axis.
+struct ChartAxis {
+    std::string Title;
+    ToldScale Scale;
+    PenStyle MajorPen = PenStyle::kNone;
+    PenStyle MinorPen = PenStyle::kNone;
+
+    bool operator==(const ChartAxis&) const = default;
+};
+
+struct ChartTitle {
+    std::string Text;
+    ChartFont Font;
+    ChartLocation Location = ChartLocation::kTop;
+
+    bool operator==(const ChartTitle&) const = default;
+};
+
+struct ChartLegend {
+    bool Visible = false;
+    ChartFont Font;
+    ChartLocation Location = ChartLocation::kBottomRight;
+
+    bool operator==(const ChartLegend&) const = default;
+};
+
+/// What lies behind the plot and the pens around it.
+struct ChartDecoration {
+    FillStyle BackdropStyle = FillStyle::kNone;
+    Colour BackdropColor = 0xFFFFFF;
+    PenStyle WallPen = PenStyle::kSolid;
+    Colour SeriesEdge = 0;  ///< Around the bars of every series.
+
+    bool operator==(const ChartDecoration&) const = default;
+};
+
+/// Columns and rows are counted from 1. An XY chart reads its columns two by two: the X values and
+/// the Y values of a series; a bar chart has a column for each series and a label for each row.
 class Chart : public Control {
 public:
     enum class Type { kBar2d = 1, kXyScatter = 16 };
     static constexpr int kAxisX = 0;
     static constexpr int kAxisY = 1;
+    /// X, Y, a second Y and Z; the last two are never drawn.
+    static constexpr int kAxes = 4;
 
     Chart(Control& parent, std::string name, Place place);
+
+    /// Everything as it was when the control was made, but its place.
+    void ResetToDefaults();
 
     Type chartType() const { return type_; }
     void SetChartType(Type type);
@@ -41,6 +82,11 @@ public:
     int RowCount() const { return static_cast<int>(rowLabels_.size()); }
     /// A new size keeps the cells that both sizes have; new cells are 0.
     void SetSize(int rows, int columns);
+    void SetColumnCount(int columns) { SetSize(RowCount(), columns); }
+    void SetRowCount(int rows) { SetSize(rows, ColumnCount()); }
+    /// All data at once: the first row holds the column labels, the others the data as texts, of
+    /// which a number's leading part counts. Row labels are emptied.
+    void SetChartData(const std::vector<std::vector<std::string>>& rows);
 
     /// Throw 9 outside the chart.
     double Data(int row, int column) const;
@@ -52,10 +98,27 @@ public:
 
     const ChartAxis& Axis(int axis) const;
     void SetAxis(int axis, const ChartAxis& values);
-    const std::string& Title() const { return title_; }
-    void SetTitle(const std::string& title);
-    bool LegendVisible() const { return legendVisible_; }
-    void SetLegendVisible(bool visible);
+    /// The ends of an axis: the told ones, also while the scale is automatic; until they are told,
+    /// those that are drawn.
+    double Minimum(int axis) const;
+    double Maximum(int axis) const;
+    /// How the axis is drawn.
+    AxisScale DrawnScale(int axis) const;
+
+    const ChartTitle& GetTitle() const { return title_; }
+    const std::string& Title() const { return title_.Text; }
+    void SetTitle(const ChartTitle& title);
+    const ChartLegend& Legend() const { return legend_; }
+    bool LegendVisible() const { return legend_.Visible; }
+    void SetLegend(const ChartLegend& legend);
+    const ChartDecoration& Decoration() const { return decoration_; }
+    void SetDecoration(const ChartDecoration& decoration);
+
+    /// A person picked a data point: the series (of an XY chart the X column of its pair) and the
+    /// row, both from 1.
+    std::function<void(int series, int point)> onPointActivated;
+    /// Whether there is such a point to pick.
+    bool HasPoint(int series, int point) const;
 
 private:
     void CheckRow(int row) const;
@@ -65,9 +128,10 @@ private:
     std::vector<std::string> columnLabels_;
     std::vector<std::string> rowLabels_;
     std::vector<std::vector<double>> data_;
-    std::array<ChartAxis, 2> axes_;
-    std::string title_;
-    bool legendVisible_ = false;
+    std::array<ChartAxis, kAxes> axes_;
+    ChartTitle title_;
+    ChartLegend legend_;
+    ChartDecoration decoration_;
 };
 
 }  // namespace arbolith

@@ -47,6 +47,13 @@ void Form::Hide() {
     application_.Deactivate(*this);
 }
 
+void Form::BringToTop() {
+    if (!Visible()) return;
+    ++timesShown_;
+    Touch();
+    application_.Activate(*this);
+}
+
 void Form::SetClientSize(Size size) {
     if (clientSize_.width == size.width && clientSize_.height == size.height) return;
     auto place = GetPlace();
@@ -61,6 +68,12 @@ void Form::SetClientSize(Size size) {
 void Form::SetState(WindowState state) {
     if (state_ == state) return;
     state_ = state;
+    Touch();
+}
+
+void Form::SetTopmost(bool topmost) {
+    if (topmost_ == topmost) return;
+    topmost_ = topmost;
     Touch();
 }
 

@@ -31,12 +31,17 @@ public:
     /// Shows the form and makes it the active one. The first showing raises the resize event.
     void Show();
     void Hide();
+    /// Brings a visible form's window before the others and makes the form the active one.
+    void BringToTop();
 
     Size ClientSize() const { return clientSize_; }
     /// A new client area; raises the resize event where it changes.
     void SetClientSize(Size size);
     WindowState State() const { return state_; }
     void SetState(WindowState state);
+    /// Whether its window stays above all others.
+    bool Topmost() const { return topmost_; }
+    void SetTopmost(bool topmost);
     MousePointer Pointer() const { return pointer_; }
     void SetPointer(MousePointer pointer);
 
@@ -62,6 +67,7 @@ private:
     WindowState state_ = WindowState::kNormal;
     MousePointer pointer_ = MousePointer::kDefault;
     Control* focus_ = nullptr;
+    bool topmost_ = false;
     int timesShown_ = 0;
 };
 

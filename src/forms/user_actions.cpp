@@ -339,6 +339,15 @@ void UserActions::DragCells(Grid& grid, int row, int col, int rowSel, int colSel
     });
 }
 
+void UserActions::PickPoint(Chart& chart, int series, int point) {
+    Approach(chart);
+    if (!chart.HasPoint(series, point))
+        throw ActionRefused(chart.Name() + " has no such data point");
+    application_.Enter([&] {
+        if (chart.onPointActivated) chart.onPointActivated(series, point);
+    });
+}
+
 void UserActions::Resize(Form& form, Size clientSize) {
     RequireUsable(form);
     application_.Enter([&] { form.SetClientSize(clientSize); });

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "forms/application.h"
+#include "forms/chart.h"
 #include "forms/controls.h"
 #include "forms/grid.h"
 
@@ -65,6 +66,9 @@ public:
     void SelectRow(ListBox& list, int index);
     /// Presses the mouse on a cell and, with the button or Shift held, goes on to another.
     void DragCells(Grid& grid, int row, int col, int rowSel, int colSel);
+
+    /// Picks a data point; series and point as the chart's event gives them.
+    void PickPoint(Chart& chart, int series, int point);
 
     void Resize(Form& form, Size clientSize);
     void Close(Form& form);

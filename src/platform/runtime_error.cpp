@@ -44,6 +44,8 @@ const char* ErrorName(ErrorNumber number) {
             return "Path/File access error";
         case ErrorNumber::kPathNotFound:
             return "Path not found";
+        case ErrorNumber::kPrinter:
+            return "Printer error";
     }
     return "Application-defined or object-defined error";
 }

@@ -26,6 +26,7 @@ enum class ErrorNumber : int {
     kDiskNotReady = 71,
     kPathFileAccess = 75,
     kPathNotFound = 76,
+    kPrinter = 482,
 };
 
 class RuntimeError : public std::exception {

@@ -1,5 +1,6 @@
 #include "qt/qt_host.h"
 
+#include "platform/runtime_error.h"
 #include "qt/scale.h"
 #include "qt/texts.h"
 #include "qt/wait_notice.h"
@@ -7,10 +8,15 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QEventLoop>
+#include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QScreen>
 #include <QSocketNotifier>
+#include <QUrl>
 
 #include <utility>
 
@@ -73,6 +79,42 @@ void QtHost::SetClipboardText(const std::string& text) {
 
 std::string QtHost::ClipboardText() {
     return FromQString(QGuiApplication::clipboard()->text());
+}
+
+std::optional<FileChoice> QtHost::ChooseFile(const FileQuestion& question) {
+    const WindowManager::OwnBox ownBox(windows_);
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setAcceptMode(question.saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setDirectory(QFile::decodeName(question.folder.c_str()));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    return FileChoice{QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString(),
+                      question.filterIndex};
+}
+
+std::optional<std::string> QtHost::AskForText(const std::string& prompt) {
+    const WindowManager::OwnBox ownBox(windows_);
+    bool accepted = false;
+    const QString text = QInputDialog::getText(QApplication::activeWindow(), {}, ToQString(prompt),
+                                               QLineEdit::Normal, {}, &accepted);
+    return accepted ? std::optional(FromQString(text)) : std::nullopt;
+}
+
+void QtHost::SetClipboard(const std::string& text, std::shared_ptr<const Drawing> picture) {
+    SetClipboardText(text);
+    picture_ = std::move(picture);
+}
+
+std::shared_ptr<const Drawing> QtHost::ClipboardPicture() {
+    return picture_;
+}
+
+void QtHost::Print(const Drawing&) {
+    throw RuntimeError(ErrorNumber::kPrinter);
+}
+
+OpenResult QtHost::Open(const std::string& address) {
+    const auto url = QUrl::fromUserInput(QFile::decodeName(address.c_str()));
+    return QDesktopServices::openUrl(url) ? OpenResult::kOpened : OpenResult::kFailed;
 }
 
 std::unique_ptr<Process> QtHost::Start(const ProgramStart& start) {

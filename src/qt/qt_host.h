@@ -15,15 +15,23 @@ public:
 
     bool ShowBox(const Box& box) override;
     void Beep() override;
+    std::optional<FileChoice> ChooseFile(const FileQuestion& question) override;
+    std::optional<std::string> AskForText(const std::string& prompt) override;
     void SetClipboardText(const std::string& text) override;
     std::string ClipboardText() override;
+    void SetClipboard(const std::string& text, std::shared_ptr<const Drawing> picture) override;
+    std::shared_ptr<const Drawing> ClipboardPicture() override;
+    void Print(const Drawing& picture) override;
+    OpenResult Open(const std::string& address) override;
     std::unique_ptr<Process> Start(const ProgramStart& start) override;
     void WaitForEnd(Process& process, const std::function<bool()>& giveUp) override;
     Size ScreenSize() override;
+    Date Today() override { return CurrentDate(); }
     void EndProgram() override;
 
 private:
     WindowManager* windows_ = nullptr;
+    std::shared_ptr<const Drawing> picture_;
     bool ended_ = false;
 };
 

@@ -3,7 +3,7 @@
 namespace arbolith {
 
 MainForm::MainForm(Application& application)
-    : Form(application, "QvlySwd", "Arbolith", {14400, 9240}) {
+    : Form(application, "QvlySwd", "Arbolith", {14400, 9240}), CDL(application) {
     Batch.SetVisible(false);
     Append_Btn.SetVisible(false);
     CancelAppend.SetVisible(false);

@@ -2,6 +2,7 @@
 // name, caption and place. The order of making is the tab order: it follows the steps.
 #pragma once
 
+#include "forms/common_dialog.h"
 #include "forms/controls.h"
 
 namespace arbolith {
@@ -26,6 +27,13 @@ struct MainForm : Form {
     MenuItem Single_Mnu{Run_Mnu, "Single_Mnu", "&Single Run"};
     MenuItem Batch_Mnu{Run_Mnu, "Batch_Mnu", "&Batch Run"};
     MenuItem Adv_Mode{Run_Mnu, "Adv_Mode", "Advanced User"};
+    MenuItem HelpMain{*this, "HelpMain", "&Help"};
+    MenuItem Help{HelpMain, "Help", "&Contents..."};
+    MenuItem Help_Separator{HelpMain, "Help_Separator", "-"};
+    MenuItem Definitions_Mnu{HelpMain, "Definitions_Mnu", "&Definitions..."};
+
+    /// For everything that is opened or saved from this form.
+    CommonDialog CDL;
 
     Frame Qvly{*this, "Qvly", "Arbolith Models:", {120, 60, 14160, 9060}};
     Frame Batch{*this, "Batch", "Batch Run", {120, 60, 14160, 9060}};

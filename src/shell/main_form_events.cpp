@@ -260,7 +260,8 @@ void DisableWhatIsToCome(MainForm& form) {
     for (Control* control :
          std::initializer_list<Control*>{&form.New_Mnu, &form.Open_Mnu, &form.Save_Mnu,
                                          &form.SaveAs_Mnu, &form.AppendToBatch_Mnu, &form.Batch_Mnu,
-                                         &form.Single_Mnu, &form.NSpruceHelp, &form.Help4a})
+                                         &form.Single_Mnu, &form.Help, &form.Definitions_Mnu,
+                                         &form.NSpruceHelp, &form.Help4a})
         control->SetEnabled(false);
 }
 

@@ -4,7 +4,7 @@
 #include "bench/bare_exchange.h"
 #include "bench/measure.h"
 #include "bench/white_pine.h"
-#include "form_script/headless_host.h"
+#include "platform/headless_host.h"
 #include "shell/program.h"
 
 #include <cstring>

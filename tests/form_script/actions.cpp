@@ -126,11 +126,10 @@ Act CompileDrag(StepReader& words) {
 
 Act CompilePoint(StepReader& words) {
     auto name = words.Name(kName);
-    words.Whole("a SERIES", 1);
-    words.Whole("a POINT", 1);
-    return [name](Stage& stage) {
-        FindKind<Chart>(stage, name, "a chart");
-        throw ActionRefused("the points of " + name + " can't be picked");
+    const int series = words.Whole("a SERIES", 1);
+    const int point = words.Whole("a POINT", 1);
+    return [name, series, point](Stage& stage) {
+        stage.driver.PickPoint(FindKind<Chart>(stage, name, "a chart"), series, point);
     };
 }
 

@@ -46,7 +46,7 @@ Size ReadScreen(const std::string& text) {
     return {*width * kTwipsPerPixel, *height * kTwipsPerPixel};
 }
 
-std::string ReadDate(const std::string& text) {
+Date ReadDate(const std::string& text) {
     const auto parts = Split(text, '-');
     std::array<int, 3> numbers{};
     bool reads = text.size() == 10 && text[4] == '-' && text[7] == '-' && parts.size() == 3;
@@ -59,7 +59,7 @@ std::string ReadDate(const std::string& text) {
                                            std::chrono::month(static_cast<unsigned>(numbers[1])),
                                            std::chrono::day(static_cast<unsigned>(numbers[2]))};
     if (!reads || !date.ok()) throw BadArguments("--date needs a day as YYYY-MM-DD, not " + text);
-    return text;
+    return {numbers[0], numbers[1], numbers[2]};
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ struct Arguments {
     std::string folder;  ///< The application folder, absolute, without a separator at its end.
     std::string commandLine;
     std::optional<Size> screen;  ///< In twips.
-    std::string date;            ///< What is today in the run, YYYY-MM-DD; empty for the real day.
+    std::optional<Date> date;    ///< What is today in the run; nothing for the real day.
     std::string picture;  ///< Where to save pictures when the script is over; empty for none.
     bool window = false;
     bool keepGoing = false;

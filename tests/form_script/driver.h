@@ -22,6 +22,7 @@ public:
     virtual void Paste(TextBox& box, const std::string& text) = 0;
     virtual void SelectRow(ListBox& list, int index) = 0;
     virtual void DragCells(Grid& grid, int row, int col, int rowSel, int colSel) = 0;
+    virtual void PickPoint(Chart& chart, int series, int point) = 0;
     virtual void Resize(Form& form, Size clientSize) = 0;
     virtual void Close(Form& form) = 0;
     virtual void ComeBack(Form& form) = 0;

@@ -6,6 +6,7 @@
 #include "platform/code_page.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -195,13 +196,26 @@ Act CompileOpened(StepReader& words) {
     };
 }
 
+// In pixels; two more or less are close enough.
+void ExpectClipboardPicture(const Stage& stage, int width, int height) {
+    constexpr int kTwipsPerPixel = 15;
+    constexpr int kTolerance = 2 * kTwipsPerPixel;
+    const auto picture = stage.host.ClipboardPicture();
+    if (picture == nullptr) throw StepFailed("no picture on the clipboard");
+    const Size size = picture->GetSize();
+    Hold(std::abs(size.width - width * kTwipsPerPixel) <= kTolerance &&
+             std::abs(size.height - height * kTwipsPerPixel) <= kTolerance,
+         std::to_string(size.width / kTwipsPerPixel) + " by " +
+             std::to_string(size.height / kTwipsPerPixel) + " pixels");
+}
+
 Act CompileClipboard(StepReader& words) {
     if (words.Left() == 3 && words.Takes("picture")) {
-        words.Whole("a width", 1);
-        words.Whole("a height", 1);
-        return [](Stage& stage) {
+        const int width = words.Whole("a width", 1);
+        const int height = words.Whole("a height", 1);
+        return [width, height](Stage& stage) {
             RequireForms(stage);
-            throw StepFailed("no picture on the clipboard");
+            ExpectClipboardPicture(stage, width, height);
         };
     }
     return [expected = words.Text(kValue)](Stage& stage) {

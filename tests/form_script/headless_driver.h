@@ -19,6 +19,9 @@ public:
     void DragCells(Grid& grid, int row, int col, int rowSel, int colSel) override {
         actions_.DragCells(grid, row, col, rowSel, colSel);
     }
+    void PickPoint(Chart& chart, int series, int point) override {
+        actions_.PickPoint(chart, series, point);
+    }
     void Resize(Form& form, Size clientSize) override { actions_.Resize(form, clientSize); }
     void Close(Form& form) override { actions_.Close(form); }
     void ComeBack(Form& form) override { actions_.ComeBack(form); }

@@ -74,6 +74,13 @@ constexpr Property OfAxis(std::string_view name) {
             }};
 }
 
+template <auto Field>
+constexpr Property OfScale(std::string_view name) {
+    return {name, 1, [](const Control& control, const Indexes& at) {
+                return ToValue(static_cast<const Chart&>(control).Axis(at[0]).Scale.*Field);
+            }};
+}
+
 Value BackColorOf(const Control& control, const Indexes&) {
     return ColourValue{control.BackColor()};
 }
@@ -97,6 +104,7 @@ constexpr Property kOfForms[] = {
     Told<&Form::Caption>("Title"),
     Told<&Form::State>("WindowState"),
     Told<&Form::Pointer>("MousePointer"),
+    Told<&Form::Topmost>("Topmost"),
 };
 
 constexpr Property kOfOptions[] = {Told<&Option::Value>("Value")};
@@ -151,11 +159,11 @@ constexpr Property kOfCharts[] = {
 // Behind `Axis(n).`.
 constexpr Property kOfAxes[] = {
     OfAxis<&ChartAxis::Title>("Title"),
-    OfAxis<&ChartAxis::Auto>("Auto"),
-    OfAxis<&ChartAxis::Minimum>("Minimum"),
-    OfAxis<&ChartAxis::Maximum>("Maximum"),
-    OfAxis<&ChartAxis::MajorDivision>("MajorDivision"),
-    OfAxis<&ChartAxis::MinorDivision>("MinorDivision"),
+    OfScale<&ToldScale::Auto>("Auto"),
+    Told<&Chart::Minimum>("Minimum"),
+    Told<&Chart::Maximum>("Maximum"),
+    OfScale<&ToldScale::MajorDivision>("MajorDivision"),
+    OfScale<&ToldScale::MinorDivision>("MinorDivision"),
     OfAxis<&ChartAxis::MajorPen>("MajorPen"),
     OfAxis<&ChartAxis::MinorPen>("MinorPen"),
 };

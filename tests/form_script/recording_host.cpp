@@ -2,6 +2,7 @@
 
 #include "form_script/script.h"
 #include "form_script/timed_process.h"
+#include "platform/runtime_error.h"
 
 #include <filesystem>
 #include <unistd.h>
@@ -44,6 +45,46 @@ bool RecordingHost::ShowBox(const Box& box) {
     if (const auto yes = answers_.TakeYesNo()) return *yes;
     if (onFailure) onFailure("an answer to the question " + Quoted(box.text), "none");
     return false;
+}
+
+std::optional<FileChoice> RecordingHost::ChooseFile(const FileQuestion& question) {
+    recordings_.dialog = FileDialog{question.saves, question.filter};
+    const auto answer = answers_.TakeForFileDialog();
+    if (!answer) {
+        if (onFailure) onFailure("an answer to a dialog for " + Quoted(question.filter), "none");
+        return std::nullopt;
+    }
+    if (answer->kind == DialogAnswer::kCancel) return std::nullopt;
+    FileChoice choice{answer->text, question.filterIndex};
+    // An empty name is no file, wherever it lies.
+    if (!choice.fileName.empty())
+        choice.fileName = (std::filesystem::path(folder_) / choice.fileName).string();
+    if (answer->filterIndex > 0) choice.filterIndex = answer->filterIndex;
+    return choice;
+}
+
+std::optional<std::string> RecordingHost::AskForText(const std::string& prompt) {
+    recordings_.inputPrompt = prompt;
+    const auto answer = answers_.TakeForInputBox();
+    if (!answer && onFailure) onFailure("an answer to the input box " + Quoted(prompt), "none");
+    if (!answer || answer->kind == DialogAnswer::kCancel) return std::nullopt;
+    return answer->text;
+}
+
+void RecordingHost::SetClipboard(const std::string& text, std::shared_ptr<const Drawing> picture) {
+    clipboard_ = text;
+    picture_ = std::move(picture);
+}
+
+void RecordingHost::Print(const Drawing&) {
+    if (printer == PrinterAnswer::kNone) throw RuntimeError(ErrorNumber::kPrinter);
+    ++recordings_.printed;
+}
+
+OpenResult RecordingHost::Open(const std::string& address) {
+    if (opener == OpenerAnswer::kNone) return OpenResult::kNoOpener;
+    recordings_.opened.push_back(address);
+    return opener == OpenerAnswer::kFailed ? OpenResult::kFailed : OpenResult::kOpened;
 }
 
 std::unique_ptr<Process> RecordingHost::Start(const ProgramStart& start) {

@@ -25,11 +25,18 @@ public:
 
     bool ShowBox(const Box& box) override;
     void Beep() override { ++recordings_.beeps; }
-    void SetClipboardText(const std::string& text) override { clipboard_ = text; }
+    std::optional<FileChoice> ChooseFile(const FileQuestion& question) override;
+    std::optional<std::string> AskForText(const std::string& prompt) override;
+    void SetClipboardText(const std::string& text) override { SetClipboard(text, nullptr); }
     std::string ClipboardText() override { return clipboard_; }
+    void SetClipboard(const std::string& text, std::shared_ptr<const Drawing> picture) override;
+    std::shared_ptr<const Drawing> ClipboardPicture() override { return picture_; }
+    void Print(const Drawing& picture) override;
+    OpenResult Open(const std::string& address) override;
     std::unique_ptr<Process> Start(const ProgramStart& start) override;
     void WaitForEnd(Process& process, const std::function<bool()>& giveUp) override;
     Size ScreenSize() override;
+    Date Today() override { return today_ ? *today_ : inner_.Today(); }
     void EndProgram() override { inner_.EndProgram(); }
 
     Recordings& Recorded() { return recordings_; }
@@ -39,6 +46,8 @@ public:
 
     /// A screen size in place of the inner host's.
     void SetScreenSize(Size size) { screen_ = size; }
+    /// A day in place of the real one.
+    void SetToday(Date date) { today_ = date; }
     /// How many programs were started so far.
     int StartCount() const { return startCount_; }
 
@@ -60,6 +69,8 @@ private:
     Answers answers_;
     RunningPrograms running_;
     std::string clipboard_;
+    std::shared_ptr<const Drawing> picture_;
+    std::optional<Date> today_;
     std::optional<Size> screen_;
     std::chrono::nanoseconds left_ = std::chrono::seconds(60);
     int startCount_ = 0;

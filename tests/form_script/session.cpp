@@ -33,6 +33,7 @@ ExitStatus RunSession(const Arguments& arguments, const CompiledScript& script, 
     std::filesystem::current_path(arguments.folder);
     RecordingHost host(inner, arguments.folder);
     if (arguments.screen) host.SetScreenSize(*arguments.screen);
+    if (arguments.date) host.SetToday(*arguments.date);
     Application application(host, arguments.folder, arguments.commandLine);
     const auto driver = makeDriver(application);
     Program program(application);

@@ -137,6 +137,13 @@ public:
         Drag(*table.viewport(), placeOf(row, col), [&] { return placeOf(rowSel, colSel); });
     }
 
+    // Until a chart is drawn there is nothing to hit with the mouse.
+    void PickPoint(Chart& chart, int series, int point) override {
+        WindowToUse(chart.Owner()).Perform([&](UserActions& actions) {
+            actions.PickPoint(chart, series, point);
+        });
+    }
+
     void Resize(Form& form, Size clientSize) override {
         WindowToUse(form).RequestClientSize(clientSize);
         Settle();

@@ -93,9 +93,17 @@ TEST_F(ActionsTest, FailOnRowsThatAListDoesNotHave) {
     EXPECT_NE(Failure("select lst \"two\"\n").find("lst has no row \"two\""), std::string::npos);
 }
 
-TEST_F(ActionsTest, FailOnPointsOfAChart) {
+TEST_F(ActionsTest, PickPointsOfAChart) {
     Chart chart(form, "Chart", {});
-    EXPECT_NE(Failure("point Chart 1 1\n").find("can't be picked"), std::string::npos);
+    chart.SetSize(3, 4);
+    std::string picked;
+    chart.onPointActivated = [&](int series, int point) {
+        picked += std::to_string(series) + "," + std::to_string(point) + " ";
+    };
+    EXPECT_TRUE(Run("point Chart 1 1\npoint Chart 3 3\n")) << errors.str();
+    EXPECT_EQ(picked, "1,1 3,3 ");
+    for (const std::string script : {"point Chart 2 1\n", "point Chart 1 4\n", "point Chart 5 1\n"})
+        EXPECT_NE(Failure(script).find("no such data point"), std::string::npos) << script;
 }
 
 TEST_F(ActionsTest, FailAfterTheProgramsEnd) {

@@ -52,7 +52,11 @@ TEST_F(ArgumentsTest, GiveTheScreenInPixels) {
 }
 
 TEST_F(ArgumentsTest, GiveADateOfTheCalendar) {
-    EXPECT_EQ(Read({"--date", "2024-02-29"}).date, "2024-02-29");
+    const auto date = Read({"--date", "2024-02-29"}).date;
+    ASSERT_TRUE(date);
+    EXPECT_EQ(date->year, 2024);
+    EXPECT_EQ(date->month, 2);
+    EXPECT_EQ(date->day, 29);
     for (const char* text : {"", "2023-02-29", "2024-13-01", "2024-1-1", "24-01-01", "2024/01/01",
                              "2024-01-32", "2024-00-10"})
         EXPECT_THROW(Read({"--date", text}), BadArguments) << text;

@@ -125,7 +125,7 @@ TEST_F(PropertiesTest, OfAChart) {
     chart.SetData(1, 2, 1.5);
     chart.SetColumnLabel(2, "TDBH");
     chart.SetRowLabel(1, "5");
-    chart.SetTitle("Growth");
+    chart.SetTitle({"Growth", {}, ChartLocation::kTop});
     EXPECT_EQ(Read(chart, "chartType"), "16");
     EXPECT_EQ(Read(chart, "ColumnCount"), "2");
     EXPECT_EQ(Read(chart, "RowCount"), "1");
@@ -139,7 +139,7 @@ TEST_F(PropertiesTest, OfAChart) {
 
 TEST_F(PropertiesTest, OfAChartsAxis) {
     Chart chart(form, "Chart", {});
-    chart.SetAxis(1, {"Height (m)", false, -5, 6000, 8, 2, PenStyle::kDotted, PenStyle::kNone});
+    chart.SetAxis(1, {"Height (m)", {false, -5, 6000, 8, 2}, PenStyle::kDotted, PenStyle::kNone});
     EXPECT_EQ(Read(chart, "Axis(1).Title"), "Height (m)");
     EXPECT_EQ(Read(chart, "Axis(1).Auto"), "false");
     EXPECT_EQ(Read(chart, "Axis(1).Minimum"), "-5");
@@ -149,7 +149,7 @@ TEST_F(PropertiesTest, OfAChartsAxis) {
     EXPECT_EQ(Read(chart, "Axis(1).MajorPen"), "3");
     EXPECT_EQ(Read(chart, "Axis(1).MinorPen"), "0");
     EXPECT_EQ(Read(chart, "Axis(0).Auto"), "true");
-    EXPECT_ERROR(9, Read(chart, "Axis(2).Auto"));
+    EXPECT_ERROR(9, Read(chart, "Axis(4).Auto"));
 }
 
 TEST_F(PropertiesTest, BelongToTheirKindOnly) {

@@ -1,6 +1,6 @@
 #include "form_script/recording_host.h"
 
-#include "form_script/headless_host.h"
+#include "platform/headless_host.h"
 #include "unit/platform/temporary_folder.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "form_script/headless_driver.h"
-#include "form_script/headless_host.h"
+#include "platform/headless_host.h"
 #include "form_script/interpreter.h"
 #include "forms/chart.h"
 #include "platform/runtime_error.h"

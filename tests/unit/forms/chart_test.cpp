@@ -41,7 +41,7 @@ TEST_F(ChartTest, CountsFromOneAndFailsWith9Outside) {
     EXPECT_ERROR(9, chart.SetColumnLabel(0, ""));
     EXPECT_ERROR(9, chart.RowLabel(3));
     EXPECT_ERROR(9, chart.SetRowLabel(3, ""));
-    EXPECT_ERROR(9, chart.Axis(2));
+    EXPECT_ERROR(9, chart.Axis(4));
     EXPECT_ERROR(9, chart.SetAxis(-1, {}));
     EXPECT_ERROR(5, chart.SetSize(-1, 1));
 }
@@ -57,22 +57,22 @@ TEST_F(ChartTest, KeepsLabelsOfColumnsAndRows) {
 
 TEST_F(ChartTest, StartsItsAxesAutomatic) {
     for (const int axis : {Chart::kAxisX, Chart::kAxisY}) {
-        EXPECT_TRUE(chart.Axis(axis).Auto);
-        EXPECT_EQ(chart.Axis(axis).MajorDivision, 5);
-        EXPECT_EQ(chart.Axis(axis).MinorDivision, 1);
+        EXPECT_TRUE(chart.Axis(axis).Scale.Auto);
+        EXPECT_EQ(chart.Axis(axis).Scale.MajorDivision, 5);
+        EXPECT_EQ(chart.Axis(axis).Scale.MinorDivision, 1);
         EXPECT_EQ(chart.Axis(axis).MajorPen, PenStyle::kNone);
     }
 }
 
 TEST_F(ChartTest, KeepsExplicitValuesAlsoOnAnAutomaticAxis) {
     auto axis = chart.Axis(Chart::kAxisY);
-    axis.Maximum = 6000;
-    axis.Auto = true;
+    axis.Scale.Maximum = 6000;
+    axis.Scale.Auto = true;
     axis.Title = "Frequency";
     chart.SetAxis(Chart::kAxisY, axis);
-    EXPECT_EQ(chart.Axis(Chart::kAxisY).Maximum, 6000);
+    EXPECT_EQ(chart.Maximum(Chart::kAxisY), 6000);
     EXPECT_EQ(chart.Axis(Chart::kAxisY).Title, "Frequency");
-    EXPECT_EQ(chart.Axis(Chart::kAxisX).Maximum, 0);
+    EXPECT_FALSE(chart.Axis(Chart::kAxisX).Scale.Maximum);
 }
 
 TEST_F(ChartTest, TellsTheViewsOfEveryChange) {
@@ -84,9 +84,9 @@ TEST_F(ChartTest, TellsTheViewsOfEveryChange) {
     };
     EXPECT_TRUE(touches([&] { chart.SetData(1, 1, 2); }));
     EXPECT_TRUE(touches([&] { chart.SetChartType(Chart::Type::kBar2d); }));
-    EXPECT_TRUE(touches([&] { chart.SetTitle("Growth"); }));
-    EXPECT_TRUE(touches([&] { chart.SetLegendVisible(true); }));
-    EXPECT_TRUE(touches([&] { chart.SetAxis(Chart::kAxisX, {}); }));
+    EXPECT_TRUE(touches([&] { chart.SetTitle({"Growth", {}, ChartLocation::kTop}); }));
+    EXPECT_TRUE(touches([&] { chart.SetLegend({.Visible = true, .Font = {}}); }));
+    EXPECT_TRUE(touches([&] { chart.SetAxis(Chart::kAxisX, {.Title = "Age", .Scale = {}}); }));
     EXPECT_TRUE(touches([&] { chart.SetColumnLabel(1, "x"); }));
     EXPECT_TRUE(touches([&] { chart.SetRowLabel(1, "x"); }));
     EXPECT_EQ(chart.Title(), "Growth");

@@ -1,14 +1,14 @@
 // A host for tests of forms: boxes are noted and answered, programs are never started.
 #pragma once
 
-#include "platform/host.h"
+#include "platform/headless_host.h"
 
 #include <string>
 #include <vector>
 
 namespace arbolith {
 
-class TestHost : public Host {
+class TestHost : public HeadlessHost {
 public:
     bool ShowBox(const Box& box) override {
         boxes.push_back(box);

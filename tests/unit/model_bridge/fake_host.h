@@ -2,7 +2,7 @@
 // that runs at once; what happens while it is waited for is a function as well.
 #pragma once
 
-#include "platform/host.h"
+#include "platform/headless_host.h"
 
 #include <functional>
 #include <memory>
@@ -17,7 +17,7 @@ public:
     int EndDescriptor() const override { return -1; }
 };
 
-class FakeHost : public Host {
+class FakeHost : public HeadlessHost {
 public:
     bool ShowBox(const Box& box) override {
         boxes.push_back(box);

@@ -2,7 +2,7 @@
 // program is ever started. A stand-in may write what a model would have written.
 #pragma once
 
-#include "platform/host.h"
+#include "platform/headless_host.h"
 
 #include <deque>
 #include <functional>
@@ -13,7 +13,7 @@
 
 namespace arbolith {
 
-class FakeHost : public Host {
+class FakeHost : public HeadlessHost {
 public:
     bool ShowBox(const Box& box) override {
         boxes.push_back(box);

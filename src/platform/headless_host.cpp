@@ -1,8 +1,24 @@
-#include "form_script/headless_host.h"
+#include "platform/headless_host.h"
+
+#include "platform/runtime_error.h"
 
 #include <poll.h>
+#include <utility>
 
 namespace arbolith {
+
+void HeadlessHost::SetClipboard(const std::string& text, std::shared_ptr<const Drawing> picture) {
+    clipboard_ = text;
+    picture_ = std::move(picture);
+}
+
+void HeadlessHost::Print(const Drawing&) {
+    throw RuntimeError(ErrorNumber::kPrinter);
+}
+
+Date HeadlessHost::Today() {
+    return CurrentDate();
+}
 
 std::unique_ptr<Process> HeadlessHost::Start(const ProgramStart& start) {
     return StartProcess(start);

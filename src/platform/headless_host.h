@@ -13,16 +13,25 @@ public:
     /// Nobody is there to say no.
     bool ShowBox(const Box&) override { return true; }
     void Beep() override {}
-    void SetClipboardText(const std::string& text) override { clipboard_ = text; }
+    /// Nobody is there to choose or to answer.
+    std::optional<FileChoice> ChooseFile(const FileQuestion&) override { return std::nullopt; }
+    std::optional<std::string> AskForText(const std::string&) override { return std::nullopt; }
+    void SetClipboardText(const std::string& text) override { SetClipboard(text, nullptr); }
     std::string ClipboardText() override { return clipboard_; }
+    void SetClipboard(const std::string& text, std::shared_ptr<const Drawing> picture) override;
+    std::shared_ptr<const Drawing> ClipboardPicture() override { return picture_; }
+    void Print(const Drawing&) override;
+    OpenResult Open(const std::string&) override { return OpenResult::kNoOpener; }
     std::unique_ptr<Process> Start(const ProgramStart& start) override;
     void WaitForEnd(Process& process, const std::function<bool()>& giveUp) override;
     Size ScreenSize() override { return screen_; }
+    Date Today() override;
     void EndProgram() override {}
 
 private:
     Size screen_;
     std::string clipboard_;
+    std::shared_ptr<const Drawing> picture_;
 };
 
 }  // namespace arbolith
