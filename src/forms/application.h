@@ -7,10 +7,13 @@
 #include "platform/numbered_files.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace arbolith {
+
+class Chart;
 
 /// Unwinds a wait when the program has ended meanwhile. No error trap catches it; only the entry of
 /// an event does.
@@ -70,6 +73,11 @@ public:
     bool HasTouched() const { return !touched_.empty(); }
     /// Called behind every event, when the views may show the new states.
     Handler onSettled;
+
+    /// Draws a chart as it stands on a sheet of a size in twips. The windows bring their own; where
+    /// nothing draws, the sheet stays blank.
+    std::function<std::shared_ptr<const Drawing>(const Chart& chart, Size size)> drawChart =
+        [](const Chart&, Size size) { return std::make_shared<const BlankDrawing>(size); };
 
 private:
     friend class Control;

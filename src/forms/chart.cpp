@@ -1,5 +1,6 @@
 #include "forms/chart.h"
 
+#include "forms/application.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
 
@@ -13,6 +14,24 @@ namespace {
 
 std::size_t At(int position) {
     return static_cast<std::size_t>(position - 1);
+}
+
+// The chart's data as a spreadsheet takes it: a heading line, then a line a row, tabs between the
+// cells. In front stands what the points stand over: of a scatter chart the X values, which its
+// series share, under the title of their axis, else the row labels.
+std::string DataText(const Chart& chart) {
+    const bool isXy = chart.chartType() == Chart::Type::kXyScatter;
+    const int step = isXy ? 2 : 1;
+    std::string text = isXy ? chart.Axis(Chart::kAxisX).Title : "";
+    for (int column = step; column <= chart.ColumnCount(); column += step)
+        text += '\t' + chart.ColumnLabel(column);
+    for (int row = 1; row <= chart.RowCount(); ++row) {
+        text += "\r\n";
+        text += isXy ? DefaultText(chart.Data(row, 1)) : chart.RowLabel(row);
+        for (int column = step; column <= chart.ColumnCount(); column += step)
+            text += '\t' + DefaultText(chart.Data(row, column));
+    }
+    return text;
 }
 
 }  // namespace
@@ -155,6 +174,10 @@ void Chart::SetDecoration(const ChartDecoration& decoration) {
     if (decoration_ == decoration) return;
     decoration_ = decoration;
     Touch();
+}
+
+void Chart::EditCopy(Size pictureSize) const {
+    App().GetHost().SetClipboard(DataText(*this), App().drawChart(*this, pictureSize));
 }
 
 bool Chart::HasPoint(int series, int point) const {

@@ -4,6 +4,7 @@
 
 #include "forms/axis_scale.h"
 #include "forms/control.h"
+#include "platform/size.h"
 
 #include <array>
 #include <functional>
@@ -113,6 +114,10 @@ public:
     void SetLegend(const ChartLegend& legend);
     const ChartDecoration& Decoration() const { return decoration_; }
     void SetDecoration(const ChartDecoration& decoration);
+
+    /// Puts the chart's picture, drawn in a size in twips, and its data as a table of text on the
+    /// clipboard.
+    void EditCopy(Size pictureSize) const;
 
     /// A person picked a data point: the series (of an XY chart the X column of its pair) and the
     /// row, both from 1.

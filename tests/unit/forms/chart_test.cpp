@@ -75,6 +75,47 @@ TEST_F(ChartTest, KeepsExplicitValuesAlsoOnAnAutomaticAxis) {
     EXPECT_FALSE(chart.Axis(Chart::kAxisX).Scale.Maximum);
 }
 
+TEST_F(ChartTest, CopiesAScatterChartWithItsXValuesOnce) {
+    chart.SetSize(2, 4);
+    chart.SetAxis(Chart::kAxisX, {.Title = "Age (years)", .Scale = {}});
+    const double data[2][4] = {{5, 1.5, 5, 2}, {10, 3.25, 10, -0.5}};
+    for (int row = 1; row <= 2; ++row)
+        for (int column = 1; column <= 4; ++column)
+            chart.SetData(row, column, data[row - 1][column - 1]);
+    for (const int column : {1, 2}) chart.SetColumnLabel(column, "TDBH");
+    for (const int column : {3, 4}) chart.SetColumnLabel(column, "MDBH");
+    chart.EditCopy({1500, 3000});
+    EXPECT_EQ(host.ClipboardText(), "Age (years)\tTDBH\tMDBH\r\n5\t1.5\t2\r\n10\t3.25\t-0.5");
+    ASSERT_TRUE(host.ClipboardPicture());
+    EXPECT_EQ(host.ClipboardPicture()->GetSize(), (Size{1500, 3000}));
+}
+
+TEST_F(ChartTest, CopiesBarsBehindTheirRowLabels) {
+    chart.SetChartData({{"TDBH", "TH"}, {"1.5", "2"}, {"3", "x"}});
+    chart.SetChartType(Chart::Type::kBar2d);
+    chart.SetRowLabel(1, "5");
+    chart.EditCopy({});
+    EXPECT_EQ(host.ClipboardText(), "\tTDBH\tTH\r\n5\t1.5\t2\r\n\t3\t0");
+}
+
+TEST_F(ChartTest, CopiesOnlyItsHeadingWhereItHasNoRows) {
+    chart.SetSize(0, 2);
+    chart.SetColumnLabel(2, "TDBH");
+    chart.EditCopy({});
+    EXPECT_EQ(host.ClipboardText(), "\tTDBH");
+}
+
+TEST_F(ChartTest, IsDrawnByWhoeverDraws) {
+    const auto drawing = std::make_shared<const BlankDrawing>(Size{15, 15});
+    application.drawChart = [&](const Chart& drawn, Size size) {
+        EXPECT_EQ(&drawn, &chart);
+        EXPECT_EQ(size, (Size{30, 45}));
+        return drawing;
+    };
+    chart.EditCopy({30, 45});
+    EXPECT_EQ(host.ClipboardPicture(), drawing);
+}
+
 TEST_F(ChartTest, TellsTheViewsOfEveryChange) {
     chart.SetSize(1, 1);
     const auto touches = [&](const auto& change) {

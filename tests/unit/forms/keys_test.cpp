@@ -141,14 +141,14 @@ TEST_F(KeysTest, SelectsAndCopiesAFieldsText) {
     actions.Press(box, {Key::kSelectAll, 0});
     EXPECT_EQ(box.SelLength(), 3U);
     actions.Press(box, {Key::kCopy, 0});
-    EXPECT_EQ(host.clipboard, "123");
+    EXPECT_EQ(host.ClipboardText(), "123");
 }
 
 TEST_F(KeysTest, LeavesTheClipboardWhereNothingIsSelected) {
-    host.clipboard = "before";
+    host.SetClipboardText("before");
     box.SetText("123");
     actions.Press(box, {Key::kCopy, 0});
-    EXPECT_EQ(host.clipboard, "before");
+    EXPECT_EQ(host.ClipboardText(), "before");
 }
 
 TEST_F(KeysTest, PastesUnfilteredButCutToTheLimitWithOneChange) {
@@ -157,7 +157,7 @@ TEST_F(KeysTest, PastesUnfilteredButCutToTheLimitWithOneChange) {
     box.onChange = Note("change");
     actions.Paste(box, "abcdef");
     EXPECT_EQ(box.Text(), "abcd");
-    EXPECT_EQ(host.clipboard, "abcdef");
+    EXPECT_EQ(host.ClipboardText(), "abcdef");
     EXPECT_EQ(log, (Log{"change"}));
 }
 

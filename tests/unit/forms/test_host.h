@@ -15,15 +15,12 @@ public:
         return answer;
     }
     void Beep() override { ++beeps; }
-    void SetClipboardText(const std::string& text) override { clipboard = text; }
-    std::string ClipboardText() override { return clipboard; }
     std::unique_ptr<Process> Start(const ProgramStart&) override { return nullptr; }
     void WaitForEnd(Process&, const std::function<bool()>&) override {}
     Size ScreenSize() override { return {15360, 11520}; }
     void EndProgram() override { ++ends; }
 
     std::vector<Box> boxes;
-    std::string clipboard;
     bool answer = true;
     int beeps = 0;
     int ends = 0;

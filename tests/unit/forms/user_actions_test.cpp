@@ -37,7 +37,7 @@ TEST_F(UserActionsTest, AreRefusedOnWhatIsDisabled) {
     EXPECT_THROW(actions.Focus(box), ActionRefused);
     EXPECT_THROW(actions.Press(box, {Key::kEnter, 0}), ActionRefused);
     EXPECT_EQ(box.Text(), "");
-    EXPECT_EQ(host.clipboard, "");
+    EXPECT_EQ(host.ClipboardText(), "");
     EXPECT_EQ(log, Log{});
 }
 
