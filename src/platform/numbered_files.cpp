@@ -3,7 +3,9 @@
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstddef>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
@@ -18,9 +20,14 @@ namespace {
 constexpr std::size_t kBufferSize = 65536;
 // What runs on for longer is no number of a model, and may not end at all.
 constexpr std::size_t kLongestToken = 1000;
+constexpr std::size_t kLongestItem = std::size_t{1} << 24;
 
 bool IsBlank(int c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+bool EndsItem(char c) {
+    return c == ',' || c == '\r' || c == '\n';
 }
 
 ErrorNumber NumberOfSystemError(int systemError, const std::string& path) {
@@ -107,6 +114,21 @@ public:
         return position_ < buffer_.size() ? static_cast<unsigned char>(buffer_[position_]) : EOF;
     }
     void Skip() { ++position_; }
+    bool Skip(char c) {
+        const bool isNext = Peek() == c;
+        if (isNext) Skip();
+        return isNext;
+    }
+
+    /// Moves what stands in the buffer before the next end of an item to the token; whether the end
+    /// was found.
+    bool TakeToItemEnd() {
+        const auto begin = buffer_.begin() + static_cast<std::ptrdiff_t>(position_);
+        const auto end = std::find_if(begin, buffer_.end(), EndsItem);
+        token_.append(begin, end);
+        position_ = static_cast<std::size_t>(end - buffer_.begin());
+        return end != buffer_.end();
+    }
 
     std::string& Token() { return token_; }
 
@@ -182,6 +204,25 @@ void NumberedFiles::PrintLine(int number, std::string_view text) {
     auto& file = Opened(number);
     file.Write(text);
     file.Write("\r\n");
+}
+
+bool NumberedFiles::AtEndOfFile(int number) {
+    return Opened(number).Peek() == EOF;
+}
+
+std::string_view NumberedFiles::ItemRead(int number) {
+    auto& file = Opened(number);
+    if (file.Peek() == EOF) throw RuntimeError(ErrorNumber::kInputPastEnd);
+    while (file.Skip(' ') || file.Skip('\t')) {
+    }
+    auto& item = file.Token();
+    item.clear();
+    while (file.Peek() != EOF && !file.TakeToItemEnd())
+        if (item.size() > kLongestItem) throw RuntimeError(ErrorNumber::kOutOfMemory);
+    if (file.Skip(',')) return item;
+    file.Skip('\r');
+    file.Skip('\n');
+    return item;
 }
 
 bool NumberedFiles::AtEndOfData(int number) {

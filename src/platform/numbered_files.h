@@ -29,6 +29,12 @@ public:
     /// Writes the text and CR LF.
     void PrintLine(int number, std::string_view text);
 
+    /// Whether not a byte is left.
+    bool AtEndOfFile(int number);
+    /// The next item: blanks and tabs in front skipped, then all up to a comma or a line end, which
+    /// is taken as well. It stands until the next read. 7 where it is too long to be a line.
+    std::string_view ItemRead(int number);
+
     /// Whether nothing but blanks and line ends is left.
     bool AtEndOfData(int number);
     /// The next run of characters between blanks and line ends; 13 where it is longer than any

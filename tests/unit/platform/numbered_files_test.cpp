@@ -82,6 +82,45 @@ TEST_F(NumberedFilesTest, ReadsATokenAcrossItsBuffersEdge) {
     EXPECT_EQ(files_.ReadWhole(1), 8);
 }
 
+TEST_F(NumberedFilesTest, ReadsItemsUpToCommasAndLineEnds) {
+    OpenWith(" \t one two  \r\nthree, four\nfive\rsix");
+    for (const auto* item : {"one two  ", "three", "four", "five", "six"})
+        EXPECT_EQ(files_.ItemRead(1), item);
+    EXPECT_TRUE(files_.AtEndOfFile(1));
+}
+
+TEST_F(NumberedFilesTest, ReadsABlankLineAsAnEmptyItem) {
+    OpenWith("\r\n \t \r\n\n\r\nlast");
+    for (int line = 0; line < 4; ++line) EXPECT_EQ(files_.ItemRead(1), "");
+    EXPECT_EQ(files_.ItemRead(1), "last");
+}
+
+TEST_F(NumberedFilesTest, ReadsAnEmptyItemBehindACommaAtALinesEnd) {
+    OpenWith("one,\r\ntwo");
+    for (const auto* item : {"one", "", "two"}) EXPECT_EQ(files_.ItemRead(1), item);
+}
+
+TEST_F(NumberedFilesTest, ReadsItemsAcrossItsBuffersEdge) {
+    const std::string first(65536 - 1, 'x');
+    const std::string second(70000, 'y');
+    OpenWith(first + "\r\n" + second + "\r\n");
+    EXPECT_EQ(files_.ItemRead(1), first);
+    EXPECT_FALSE(files_.AtEndOfFile(1));
+    EXPECT_EQ(files_.ItemRead(1), second);
+    EXPECT_TRUE(files_.AtEndOfFile(1));
+}
+
+TEST_F(NumberedFilesTest, FailsWith62OnAnItemPastTheEnd) {
+    OpenWith("");
+    EXPECT_TRUE(files_.AtEndOfFile(1));
+    EXPECT_ERROR(62, files_.ItemRead(1));
+}
+
+TEST_F(NumberedFilesTest, FailsWith7OnAnItemWithoutAnEnd) {
+    files_.OpenForInput(1, "/dev/zero");
+    EXPECT_ERROR(7, files_.ItemRead(1));
+}
+
 TEST_F(NumberedFilesTest, TakesBlanksAndLineEndsAtTheEndForTheEndOfTheData) {
     OpenWith("1 \r\n\t \r\n\r\n");
     EXPECT_FALSE(files_.AtEndOfData(1));
