@@ -162,7 +162,7 @@ void ProgressBar::SetMax(int max) {
     Touch();
 }
 
-void ProgressBar::SetValue(int value) {
+void ProgressBar::SetValue(double value) {
     if (value_ == value) return;
     value_ = value;
     Touch();

@@ -186,12 +186,12 @@ public:
 
     int Max() const { return max_; }
     void SetMax(int max);
-    int Value() const { return value_; }
-    void SetValue(int value);
+    double Value() const { return value_; }
+    void SetValue(double value);
 
 private:
     int max_;
-    int value_ = 0;
+    double value_ = 0;
 };
 
 /// A picture that the view draws; the caption is the text on it.

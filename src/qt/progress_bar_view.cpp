@@ -17,7 +17,7 @@ public:
 
     void Refresh() override {
         if (maximum() != bar_.Max()) setRange(0, bar_.Max());
-        if (value() != bar_.Value()) setValue(bar_.Value());
+        if (const int whole = qRound(bar_.Value()); value() != whole) setValue(whole);
         RefreshWidget();
     }
 

@@ -23,8 +23,10 @@ Program::Program(Application& application)
     : application_(application),
       splash_(application),
       run_(application),
+      batch_(run_),
       runCommand_{run_, [this]() -> YieldTable& { return LoadOutput(); }, [] {}} {
     run_.probeTreatments = [this] { TreatmentProbe(run_); };
+    run_.onReset = [this] { ForgetBatch(batch_); };
     WireMainForm(run_, runCommand_, resize_);
 }
 

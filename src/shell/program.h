@@ -1,6 +1,7 @@
 // The whole program: its forms put together, from the splash to the end.
 #pragma once
 
+#include "batch/batch.h"
 #include "forms/resize.h"
 #include "model_bridge/run_command.h"
 #include "results/output.h"
@@ -21,6 +22,7 @@ public:
 
     Splash& GetSplash() { return splash_; }
     RunDefinition& Run() { return run_; }
+    Batch& GetBatch() { return batch_; }
     /// The Output window; null until its first use.
     Output* FindOutput() { return output_.get(); }
 
@@ -35,6 +37,7 @@ private:
     Resize resize_;
     Splash splash_;
     RunDefinition run_;
+    Batch batch_;
     std::unique_ptr<Output> output_;
     RunCommand runCommand_;
 };
