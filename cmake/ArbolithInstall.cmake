@@ -3,7 +3,11 @@
 # and works there. Nothing in it names another place of its own, so DIR may be moved. The Qt
 # libraries are the system's.
 
+# Everything that is installed, and nothing else: what ./run and tools/package build.
+add_custom_target(programs)
+
 if(TARGET arbolith)
+  add_dependencies(programs arbolith swqvl hwqvl)
   install(TARGETS arbolith swqvl hwqvl RUNTIME DESTINATION .)
   install(FILES README.md LICENSE CHANGELOG.md DESTINATION .)
   if(EXISTS ${CMAKE_SOURCE_DIR}/docs/open-models.md)

@@ -5,6 +5,7 @@
 #include "shell/program.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 
 #include <filesystem>
@@ -23,6 +24,15 @@ std::string CommandLineOf(int count, char** arguments) {
     return '"' + (failed ? std::string(arguments[1]) : path.string()) + '"';
 }
 
+// The program works in its own folder; the launcher of an installed one, whose folder is not
+// writable, names another.
+std::string ApplicationFolder() {
+    const QByteArray told = qgetenv("ARBOLITH_FOLDER");
+    const QDir folder(told.isEmpty() ? QCoreApplication::applicationDirPath()
+                                     : QFile::decodeName(told));
+    return QFile::encodeName(folder.absolutePath()).toStdString();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -35,8 +45,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
 
     QtHost host;
-    const QByteArray folder = QFile::encodeName(QCoreApplication::applicationDirPath());
-    Application application(host, folder.toStdString(), CommandLineOf(argc, argv));
+    Application application(host, ApplicationFolder(), CommandLineOf(argc, argv));
     WindowManager windows(application);
     host.SetWindows(&windows);
     Program program(application);
