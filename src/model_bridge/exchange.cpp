@@ -9,14 +9,6 @@ namespace {
 // The second file number that a command may have left open.
 constexpr int kSecondFile = 2;
 
-void WritePathFile(Application& application) {
-    auto& files = application.Files();
-    files.OpenForOutput(kExchangeFile, application.PathOf(kPathFileName));
-    files.PrintLine(kExchangeFile, application.PathOf(kInputFileName));
-    files.PrintLine(kExchangeFile, application.PathOf(kOutputFileName));
-    files.Close(kExchangeFile);
-}
-
 void WriteInputFile(Application& application, const std::string& runLine) {
     auto& files = application.Files();
     files.OpenForOutput(kExchangeFile, application.PathOf(kInputFileName));
@@ -30,11 +22,20 @@ const char* ModelFileName(const std::string& woodType) {
     return woodType == "Softwood" ? "SWQVL.exe" : "HWQVL.exe";
 }
 
+void WritePathFile(Application& application, int fileNumber, const std::string& inputName,
+                   const std::string& outputName) {
+    auto& files = application.Files();
+    files.OpenForOutput(fileNumber, application.PathOf(kPathFileName));
+    files.PrintLine(fileNumber, application.PathOf(inputName));
+    files.PrintLine(fileNumber, application.PathOf(outputName));
+    files.Close(fileNumber);
+}
+
 std::string ExchangeWithModel(RunDefinition& run, StartMode mode) {
     auto& application = run.application;
     auto runLine = BuildRunLine(run.record, run.globals.UnitSystem, run.ShortHardwoodList);
     const std::string model = ModelFileName(run.record.WDTYPE);
-    WritePathFile(application);
+    WritePathFile(application, kExchangeFile, kInputFileName, kOutputFileName);
     WriteInputFile(application, runLine);
     RunAndWait(application, model, mode);
     return runLine;

@@ -21,6 +21,11 @@ inline constexpr const char* kOutputFileName = "_OUTPUT.TMP";
 /// The model program of a wood type: the hardwood model unless the word is "Softwood".
 const char* ModelFileName(const std::string& woodType);
 
+/// Writes the file that tells a model where it finds its input and leaves its output, both files of
+/// the application folder.
+void WritePathFile(Application& application, int fileNumber, const std::string& inputName,
+                   const std::string& outputName);
+
 /// Hands the record to its model and waits until the model has ended. Failures of the files are
 /// those of NumberedFiles; a model that can't be started is none. Returns the run line.
 std::string ExchangeWithModel(RunDefinition& run, StartMode mode);

@@ -14,4 +14,12 @@ enum class StartMode : int { kNormal = 0, kHidden = 1 };
 /// meanwhile; the started one is then left alone.
 void RunAndWait(Application& application, const std::string& fileName, StartMode mode);
 
+/// Starts the editor on a file, in a normal window, and returns when it has ended. Throws 53 where
+/// there is no editor, ProgramEnded as RunAndWait does.
+void EditAndWait(Application& application, const std::string& path);
+
+/// Starts the editor on a file, in a normal window, and leaves it to the person. Throws 53 where
+/// there is no editor.
+void StartEditor(Application& application, const std::string& path);
+
 }  // namespace arbolith

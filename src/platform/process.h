@@ -9,9 +9,9 @@ namespace arbolith {
 
 /// What is to be started.
 struct ProgramStart {
-    std::string program;                 ///< Full path.
+    std::string program;                 ///< Full path, or a name on this program's search path.
     std::vector<std::string> arguments;  ///< Behind the program's own name.
-    std::string folder;                  ///< Working directory and search path of the program.
+    std::string folder;                  ///< Working directory and search path; empty for its own.
     int mode = 0;                        ///< 1: hidden; any other: a normal window with the focus.
 
     /// The last part of the program's path.

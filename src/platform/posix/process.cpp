@@ -66,33 +66,40 @@ std::optional<std::string> FindOnSearchPath(const std::string& name) {
     return std::nullopt;
 }
 
-// The command with its arguments, with wine in front of a Windows program; empty without wine.
+std::optional<std::string> PathOfProgram(const std::string& program) {
+    return program.find('/') == std::string::npos ? FindOnSearchPath(program) : program;
+}
+
+// The command with its arguments, with wine in front of a Windows program; empty where the program,
+// or the wine for it, isn't there.
 std::vector<std::string> CommandOf(const ProgramStart& start) {
     std::vector<std::string> command;
-    if (IsWindowsProgram(start.program)) {
+    const auto program = PathOfProgram(start.program);
+    if (!program) return command;
+    if (IsWindowsProgram(*program)) {
         const auto wine = FindOnSearchPath("wine");
         if (!wine) return command;
         command.push_back(*wine);
     }
-    command.push_back(start.program);
+    command.push_back(*program);
     command.insert(command.end(), start.arguments.begin(), start.arguments.end());
     return command;
 }
 
-// The environment of this program but for the search path, which becomes the folder. Wine needs the
-// usual one as well to find its own parts.
+// The environment of this program but for the search path, which becomes the folder where there is
+// one. Wine needs the usual one as well to find its own parts.
 std::vector<std::string> EnvironmentOf(const ProgramStart& start, bool keepsSearchPath) {
     std::vector<std::string> variables;
     std::string searchPath = "PATH=" + start.folder;
     for (char** variable = environ; *variable != nullptr; ++variable) {
         const std::string text = *variable;
-        if (!text.starts_with("PATH=")) {
+        if (start.folder.empty() || !text.starts_with("PATH=")) {
             variables.push_back(text);
         } else if (keepsSearchPath) {
             searchPath += ":" + text.substr(5);
         }
     }
-    variables.push_back(searchPath);
+    if (!start.folder.empty()) variables.push_back(searchPath);
     return variables;
 }
 
@@ -133,7 +140,8 @@ std::string ProgramStart::FileName() const {
 std::unique_ptr<Process> StartProcess(const ProgramStart& start) {
     auto command = CommandOf(start);
     if (command.empty()) return nullptr;
-    auto environment = EnvironmentOf(start, command.front() != start.program);
+    const bool throughWine = command.size() > start.arguments.size() + 1;
+    auto environment = EnvironmentOf(start, throughWine);
     const SpawnActions actions(start.folder);
     pid_t id = 0;
     if (posix_spawn(&id, command.front().c_str(), actions.Get(), nullptr, Pointers(command).data(),

@@ -2,6 +2,7 @@
 #include "model_bridge/run_and_wait.h"
 
 #include "unit/model_bridge/bridge_testing.h"
+#include "unit/platform/expect_error.h"
 
 #include <gtest/gtest.h>
 
@@ -47,6 +48,39 @@ TEST_F(RunAndWaitTest, WaitsOnWhileThisProgramLives) {
     host.whileWaiting = [] {};
     RunAndWait(application, "SWQVL.exe", StartMode::kNormal);
     EXPECT_FALSE(host.gaveUp);
+}
+
+TEST_F(RunAndWaitTest, TakesTheEditorOfTheFolderAndKeepsTheWorkingDirectory) {
+    folder.WriteProgram("notepad", "");
+    EditAndWait(application, "batch.qvb");
+    ASSERT_EQ(host.starts.size(), 1u);
+    EXPECT_EQ(host.starts[0].program, folder.PathOf("notepad"));
+    EXPECT_EQ(host.starts[0].arguments, std::vector<std::string>{"batch.qvb"});
+    EXPECT_EQ(host.starts[0].folder, "");
+    EXPECT_EQ(host.starts[0].mode, 0);
+    EXPECT_EQ(host.waits, 1);
+}
+
+TEST_F(RunAndWaitTest, TakesTheEditorOfTheSystemWhereTheFolderHoldsNone) {
+    EditAndWait(application, "batch.qvb");
+    EXPECT_EQ(host.starts.at(0).program, "notepad");
+}
+
+TEST_F(RunAndWaitTest, DoesNotWaitForAnEditorThatIsOnlyStarted) {
+    StartEditor(application, "report.txt");
+    EXPECT_EQ(host.starts.size(), 1u);
+    EXPECT_EQ(host.waits, 0);
+}
+
+TEST_F(RunAndWaitTest, FailsWith53WithoutAnEditor) {
+    host.canStart = false;
+    EXPECT_ERROR(53, EditAndWait(application, "batch.qvb"));
+    EXPECT_ERROR(53, StartEditor(application, "report.txt"));
+}
+
+TEST_F(RunAndWaitTest, UnwindsWhenThisProgramEndsBeforeTheEditor) {
+    host.whileWaiting = [this] { application.End(); };
+    EXPECT_THROW(EditAndWait(application, "batch.qvb"), ProgramEnded);
 }
 
 }  // namespace

@@ -99,6 +99,20 @@ TEST_F(ProcessTest, KeepsTheRestOfTheEnvironment) {
     EXPECT_EQ(folder_.Read("mark.txt"), "kept\n");
 }
 
+TEST_F(ProcessTest, LeavesFolderAndSearchPathAsTheyAreWhereNoneIsGiven) {
+    folder_.WriteProgram("editor", "printf '%s\\n' \"$PWD\" \"$PATH\" > \"$1\"");
+    const SearchPath usual("/nowhere:" + folder_.Path());
+    const auto process = StartProcess({"editor", {folder_.PathOf("told.txt")}, "", 0});
+    ASSERT_NE(process, nullptr);
+    WaitFor(*process);
+    EXPECT_EQ(folder_.Read("told.txt"),
+              std::filesystem::current_path().string() + "\n/nowhere:" + folder_.Path() + "\n");
+}
+
+TEST_F(ProcessTest, CannotStartWhatIsNotOnTheSearchPath) {
+    EXPECT_EQ(StartProcess({"no-such-editor", {}, "", 0}), nullptr);
+}
+
 TEST_F(ProcessTest, PassesArgumentsAsTheyAre) {
     folder_.WriteProgram("editor", "printf '%s\\n' \"$@\" > arguments.txt");
     const auto process = Start("editor", {"a b.txt", "\"quoted\" $HOME"});
