@@ -1,7 +1,10 @@
 #include "platform/numbered_files.h"
 
+#include "platform/file_error.h"
+#include "platform/item_reader.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
+#include "platform/whole_file.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -9,6 +12,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
+#include <system_error>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -20,43 +24,13 @@ namespace {
 constexpr std::size_t kBufferSize = 65536;
 // What runs on for longer is no number of a model, and may not end at all.
 constexpr std::size_t kLongestToken = 1000;
-constexpr std::size_t kLongestItem = std::size_t{1} << 24;
+// Much more than any text of this program; a device may not end at all.
+constexpr std::size_t kLargestText = 64U << 20U;
+// Editors may put it in front; it is no part of the text.
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 bool IsBlank(int c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
-bool EndsItem(char c) {
-    return c == ',' || c == '\r' || c == '\n';
-}
-
-ErrorNumber NumberOfSystemError(int systemError, const std::string& path) {
-    switch (systemError) {
-        case ENOENT: {
-            std::error_code ignored;
-            const auto folder = std::filesystem::path(path).parent_path();
-            const bool folderThere = folder.empty() || std::filesystem::exists(folder, ignored);
-            return folderThere ? ErrorNumber::kFileNotFound : ErrorNumber::kPathNotFound;
-        }
-        case ENOTDIR:
-            return ErrorNumber::kPathNotFound;
-        case EACCES:
-        case EPERM:
-        case EROFS:
-        case ETXTBSY:
-            return ErrorNumber::kPermissionDenied;
-        case ENOSPC:
-        case EDQUOT:
-        case EFBIG:
-            return ErrorNumber::kDiskFull;
-        case ENODEV:
-        case ENXIO:
-            return ErrorNumber::kDeviceUnavailable;
-        case EIO:
-            return ErrorNumber::kDeviceError;
-        default:
-            return ErrorNumber::kPathFileAccess;
-    }
 }
 
 // An output file is overwritten in place and cut at its new end when it is closed. Emptying it
@@ -78,11 +52,12 @@ bool NameCanBeCreated(const std::string& path) {
 /// taken.
 class NumberedFiles::File {
 public:
-    File(const std::string& path, Use use)
-        : path_(path), stream_(OpenStream(path, use)), use_(use) {
-        if (stream_ == nullptr) throw RuntimeError(NumberOfSystemError(errno, path));
-        std::setvbuf(stream_, nullptr, _IONBF, 0);
+    File(const std::string& path, Use use) : path_(path), use_(use) {
         buffer_.reserve(kBufferSize);
+        if (IsReplacement()) return;
+        stream_ = OpenStream(path, use);
+        if (stream_ == nullptr) throw RuntimeError(FileErrorOf(errno, path));
+        std::setvbuf(stream_, nullptr, _IONBF, 0);
     }
     ~File() {
         if (stream_ == nullptr) return;
@@ -94,19 +69,20 @@ public:
 
     void Write(std::string_view text) {
         buffer_.insert(buffer_.end(), text.begin(), text.end());
-        if (buffer_.size() >= kBufferSize) Flush();
+        if (buffer_.size() >= kBufferSize && !IsReplacement()) Flush();
     }
     void Flush() {
         const auto pending = std::exchange(buffer_, {});
         if (std::fwrite(pending.data(), 1, pending.size(), stream_) != pending.size())
-            throw RuntimeError(NumberOfSystemError(errno, path_));
+            throw RuntimeError(FileErrorOf(errno, path_));
         written_ += pending.size();
     }
     void Finish() {
+        if (IsReplacement()) return Replace();
         if (use_ != Use::kInput) Flush();
         CutBehindText();
         auto* stream = std::exchange(stream_, nullptr);
-        if (std::fclose(stream) != 0) throw RuntimeError(NumberOfSystemError(errno, path_));
+        if (std::fclose(stream) != 0) throw RuntimeError(FileErrorOf(errno, path_));
     }
 
     int Peek() {
@@ -120,17 +96,27 @@ public:
         return isNext;
     }
 
-    /// Moves what stands in the buffer before the next end of an item to the token; whether the end
-    /// was found.
-    bool TakeToItemEnd() {
-        const auto begin = buffer_.begin() + static_cast<std::ptrdiff_t>(position_);
-        const auto end = std::find_if(begin, buffer_.end(), EndsItem);
-        token_.append(begin, end);
-        position_ = static_cast<std::size_t>(end - buffer_.begin());
-        return end != buffer_.end();
+    std::string ReadAll() {
+        std::string text;
+        while (Peek() != EOF) {
+            text.append(buffer_.data() + position_, buffer_.size() - position_);
+            position_ = buffer_.size();
+            if (text.size() > kLargestText) throw RuntimeError(ErrorNumber::kOutOfMemory);
+        }
+        return text;
+    }
+
+    bool AtEndOfFile() { return items_.AtEnd() && Peek() == EOF; }
+    std::string_view ItemRead() {
+        if (items_.AtEnd()) {
+            ReadLine();
+            items_ = ItemReader(line_);
+        }
+        return items_.Read();
     }
 
     std::string& Token() { return token_; }
+    bool IsReplacement() const { return use_ == Use::kReplacement; }
 
 private:
     static std::FILE* OpenStream(const std::string& path, Use use) {
@@ -141,8 +127,38 @@ private:
                 return std::fopen(path.c_str(), "abe");
             case Use::kOutput:
                 return OpenToOverwrite(path);
+            case Use::kReplacement:
+                break;
         }
         return nullptr;
+    }
+
+    void Replace() const {
+        try {
+            ReplaceWholeFile(path_, {buffer_.data(), buffer_.size()});
+        } catch (const std::system_error& error) {
+            throw RuntimeError(FileErrorOf(error.code().value(), path_));
+        }
+    }
+
+    // Whatever ends the line ends it as a line feed.
+    void ReadLine() {
+        line_.clear();
+        while (Peek() != EOF && !TakeToLineEnd())
+            if (line_.size() > kLargestText) throw RuntimeError(ErrorNumber::kOutOfMemory);
+        if (Peek() == EOF) return;
+        Skip('\r');
+        Skip('\n');
+        line_ += '\n';
+    }
+
+    // Moves what stands in the buffer before the next line end; whether that was found.
+    bool TakeToLineEnd() {
+        const std::string_view left(buffer_.data() + position_, buffer_.size() - position_);
+        const auto length = std::min(left.find_first_of("\r\n"), left.size());
+        line_.append(left, 0, length);
+        position_ += length;
+        return length != left.size();
     }
 
     // Takes away what an earlier, longer text left. A device has nothing to cut.
@@ -154,17 +170,22 @@ private:
     void Refill() {
         buffer_.resize(kBufferSize);
         const auto count = std::fread(buffer_.data(), 1, kBufferSize, stream_);
-        if (count == 0 && std::ferror(stream_) != 0)
-            throw RuntimeError(NumberOfSystemError(errno, path_));
+        if (count == 0 && std::ferror(stream_) != 0) throw RuntimeError(FileErrorOf(errno, path_));
         buffer_.resize(count);
-        position_ = 0;
+        const bool skipsMark =
+            !std::exchange(begun_, true) &&
+            std::string_view(buffer_.data(), buffer_.size()).starts_with(kUtf8Mark);
+        position_ = skipsMark ? kUtf8Mark.size() : 0;
     }
 
     std::string path_;
-    std::FILE* stream_;
+    std::FILE* stream_ = nullptr;
     std::vector<char> buffer_;
     std::size_t position_ = 0;
     std::string token_;
+    std::string line_;
+    ItemReader items_{line_};
+    bool begun_ = false;
     Use use_;
     std::size_t written_ = 0;
 };
@@ -173,6 +194,8 @@ NumberedFiles::NumberedFiles() = default;
 NumberedFiles::~NumberedFiles() = default;
 
 void NumberedFiles::Open(int number, const std::string& path, Use use) {
+    if (use != Use::kInput && !NameCanBeCreated(path))
+        throw RuntimeError(ErrorNumber::kBadFileName);
     if (files_.contains(number)) throw RuntimeError(ErrorNumber::kFileAlreadyOpen);
     std::error_code ignored;
     if (path.empty() || std::filesystem::is_directory(path, ignored))
@@ -185,12 +208,14 @@ void NumberedFiles::OpenForInput(int number, const std::string& path) {
 }
 
 void NumberedFiles::OpenForOutput(int number, const std::string& path) {
-    if (!NameCanBeCreated(path)) throw RuntimeError(ErrorNumber::kBadFileName);
     Open(number, path, Use::kOutput);
 }
 
+void NumberedFiles::OpenForReplacement(int number, const std::string& path) {
+    Open(number, path, Use::kReplacement);
+}
+
 void NumberedFiles::OpenForAppend(int number, const std::string& path) {
-    if (!NameCanBeCreated(path)) throw RuntimeError(ErrorNumber::kBadFileName);
     Open(number, path, Use::kAppend);
 }
 
@@ -207,22 +232,15 @@ void NumberedFiles::PrintLine(int number, std::string_view text) {
 }
 
 bool NumberedFiles::AtEndOfFile(int number) {
-    return Opened(number).Peek() == EOF;
+    return Opened(number).AtEndOfFile();
 }
 
 std::string_view NumberedFiles::ItemRead(int number) {
-    auto& file = Opened(number);
-    if (file.Peek() == EOF) throw RuntimeError(ErrorNumber::kInputPastEnd);
-    while (file.Skip(' ') || file.Skip('\t')) {
-    }
-    auto& item = file.Token();
-    item.clear();
-    while (file.Peek() != EOF && !file.TakeToItemEnd())
-        if (item.size() > kLongestItem) throw RuntimeError(ErrorNumber::kOutOfMemory);
-    if (file.Skip(',')) return item;
-    file.Skip('\r');
-    file.Skip('\n');
-    return item;
+    return Opened(number).ItemRead();
+}
+
+std::string NumberedFiles::ReadAll(int number) {
+    return Opened(number).ReadAll();
 }
 
 bool NumberedFiles::AtEndOfData(int number) {
@@ -261,6 +279,11 @@ void NumberedFiles::Close(int number) {
 }
 
 void NumberedFiles::CloseQuietly(int number) {
+    const auto found = files_.find(number);
+    if (found != files_.end() && found->second->IsReplacement()) {
+        files_.erase(found);
+        return;
+    }
     try {
         Close(number);
     } catch (const RuntimeError&) {

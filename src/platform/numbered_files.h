@@ -1,5 +1,6 @@
 // Text files addressed by fixed numbers. A number in use refuses a second open, which procedures
-// that share one rely on. Lines end in CR LF; bytes pass through as they are.
+// that share one rely on. Lines are written with CR LF; bytes pass through as they are, but for a
+// UTF-8 mark at a file's start, which is not read.
 #pragma once
 
 #include <cstdint>
@@ -24,6 +25,10 @@ public:
     void OpenForInput(int number, const std::string& path);
     /// Creates the file, or empties it where it exists.
     void OpenForOutput(int number, const std::string& path);
+    /// As for output, but the old file stays until Close puts the new bytes in its place as a
+    /// whole; Close is also what fails where the file can't be written. CloseQuietly drops the new
+    /// bytes.
+    void OpenForReplacement(int number, const std::string& path);
     void OpenForAppend(int number, const std::string& path);
 
     /// Writes the text and CR LF.
@@ -31,9 +36,11 @@ public:
 
     /// Whether not a byte is left.
     bool AtEndOfFile(int number);
-    /// The next item: blanks and tabs in front skipped, then all up to a comma or a line end, which
-    /// is taken as well. It stands until the next read. 7 where it is too long to be a line.
+    /// The next item by the rules of ItemReader. It stands until the next read. It is read with its
+    /// whole line, of which the other reads then see nothing. 7 where the line is too long.
     std::string_view ItemRead(int number);
+    /// All that is left, as it is; 7 where that is more than any file of this program.
+    std::string ReadAll(int number);
 
     /// Whether nothing but blanks and line ends is left.
     bool AtEndOfData(int number);
@@ -52,7 +59,7 @@ public:
 
 private:
     class File;
-    enum class Use { kInput, kOutput, kAppend };
+    enum class Use { kInput, kOutput, kAppend, kReplacement };
     File& Opened(int number);
     void Open(int number, const std::string& path, Use use);
 

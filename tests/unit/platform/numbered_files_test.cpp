@@ -110,6 +110,15 @@ TEST_F(NumberedFilesTest, ReadsItemsAcrossItsBuffersEdge) {
     EXPECT_TRUE(files_.AtEndOfFile(1));
 }
 
+TEST_F(NumberedFilesTest, SkipsAUtf8MarkAtTheStartOnly) {
+    OpenWith("\xEF\xBB\xBFone\n\xEF\xBB\xBFtwo");
+    EXPECT_EQ(files_.ItemRead(1), "one");
+    EXPECT_EQ(files_.ItemRead(1), "\xEF\xBB\xBFtwo");
+    files_.Close(1);
+    OpenWith("\xEF\xBB\xBF");
+    EXPECT_TRUE(files_.AtEndOfFile(1));
+}
+
 TEST_F(NumberedFilesTest, FailsWith62OnAnItemPastTheEnd) {
     OpenWith("");
     EXPECT_TRUE(files_.AtEndOfFile(1));
@@ -267,6 +276,51 @@ TEST_F(NumberedFilesTest, WritesOutWhatIsPendingWhenClosedQuietly) {
     files_.PrintLine(1, "kept");
     files_.CloseQuietly(1);
     EXPECT_EQ(folder_.Read("out.txt"), "kept\r\n");
+}
+
+TEST_F(NumberedFilesTest, ReplacesAFileWhenItIsClosed) {
+    folder_.Write("out.txt", "old");
+    files_.OpenForReplacement(1, PathOf("out.txt"));
+    files_.PrintLine(1, "new");
+    EXPECT_EQ(folder_.Read("out.txt"), "old");
+    files_.Close(1);
+    EXPECT_EQ(folder_.Read("out.txt"), "new\r\n");
+}
+
+TEST_F(NumberedFilesTest, KeepsTheOldFileWhenAReplacementIsClosedQuietly) {
+    folder_.Write("out.txt", "old");
+    files_.OpenForReplacement(1, PathOf("out.txt"));
+    files_.PrintLine(1, "new");
+    files_.CloseQuietly(1);
+    EXPECT_EQ(folder_.Read("out.txt"), "old");
+    EXPECT_ERROR(52, files_.PrintLine(1, "y"));
+}
+
+TEST_F(NumberedFilesTest, RefusesAReplacementLikeAnOutput) {
+    EXPECT_ERROR(52, files_.OpenForReplacement(1, PathOf("a*b.txt")));
+    EXPECT_ERROR(75, files_.OpenForReplacement(1, folder_.Path()));
+    EXPECT_ERROR(75, files_.OpenForReplacement(1, ""));
+    for (const auto& [path, error] :
+         {std::pair(std::string("/dev/full"), 61), {PathOf("missing/out.txt"), 76}}) {
+        files_.OpenForReplacement(1, path);
+        files_.PrintLine(1, "new");
+        EXPECT_ERROR(error, files_.Close(1)) << path;
+    }
+    files_.OpenForOutput(1, PathOf("out.txt"));
+    EXPECT_ERROR(55, files_.OpenForReplacement(1, PathOf("other.txt")));
+}
+
+TEST_F(NumberedFilesTest, ReadsAllThatIsLeft) {
+    const std::string text = "first\r\n" + std::string(200 * 1024, '\0') + "\xFF";
+    OpenWith(text);
+    EXPECT_EQ(files_.ReadToken(1), "first");
+    EXPECT_EQ(files_.ReadAll(1), text.substr(5));
+    EXPECT_EQ(files_.ReadAll(1), "");
+}
+
+TEST_F(NumberedFilesTest, GivesUpOnATextWithoutEnd) {
+    files_.OpenForInput(1, "/dev/zero");
+    EXPECT_ERROR(7, files_.ReadAll(1));
 }
 
 }  // namespace arbolith
