@@ -63,7 +63,12 @@ void EditSequence(Batch& batch);
 /// Puts the committed run in the place of the selected sequence, and writes the batch.
 void ApplySequence(Batch& batch);
 
-/// Runs all sequences and writes the report (batch_runner.cpp).
+// The run (batch_runner.cpp).
+
+/// The Start button: runs the batch from empty bars, or tells what is missing for it.
+void StartBatch(Batch& batch);
+/// Runs all sequences, writes the report and opens it. A failure is told in a box; the report then
+/// stays as far as it got. The commands that could disturb the run are closed meanwhile.
 void RunBatch(Batch& batch);
 
 /// The batch's part of a reset of the input.

@@ -167,6 +167,19 @@ void TrapBatchError(Batch& batch, ErrorNumber error) {
 
 }  // namespace
 
+void StartBatch(Batch& batch) {
+    auto& panel = batch.panel;
+    for (ProgressBar* bar : {&panel.SwdProg, &panel.HwdProg, &panel.TotalProg}) bar->SetValue(0);
+    auto& application = batch.run.application;
+    if (panel.batch_out.Text() == kNoOutputSelected) {
+        application.ShowBox("Please select an output file. ");
+    } else if (panel.Batch_Seq.ListCount() > 0) {
+        RunBatch(batch);
+    } else {
+        application.ShowBox("Error: No Sequences To Run");
+    }
+}
+
 void RunBatch(Batch& batch) {
     try {
         BatchRun(batch).Run();

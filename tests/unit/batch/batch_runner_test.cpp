@@ -319,6 +319,30 @@ TEST_F(RunBatchTest, LeavesTheImageAsItWasButForPlotsAndWoods) {
     EXPECT_EQ(batch.BatchPath, "b.qvb");
 }
 
+TEST_F(RunBatchTest, StartsFromEmptyBars) {
+    Fill({Line("1", "H")});
+    batch.panel.SwdProg.SetValue(50);
+    batch.panel.HwdProg.SetValue(50);
+    batch.panel.TotalProg.SetValue(100);
+    outputs["HWQVL.exe"] = "1\r\n" + Row("0", "5") + "\r\n";
+    StartBatch(batch);
+    EXPECT_TRUE(host.boxes.empty());
+    EXPECT_EQ(Progress(), (std::vector<double>{0, 50, 100}));
+}
+
+TEST_F(RunBatchTest, StartsNothingWithoutAReportsNameOrSequences) {
+    batch.panel.TotalProg.SetValue(100);
+    StartBatch(batch);
+    Fill({Line("1", "S")});
+    batch.panel.batch_out.SetText(kNoOutputSelected);
+    StartBatch(batch);
+    EXPECT_EQ(Boxes(), (std::vector<std::string>{"Error: No Sequences To Run",
+                                                 "Please select an output file. "}));
+    EXPECT_EQ(Progress(), (std::vector<double>{0, 0, 0}));
+    EXPECT_TRUE(host.starts.empty());
+    EXPECT_FALSE(folder.Holds("_SOFT.TMP"));
+}
+
 TEST_F(RunBatchTest, RunsAFullBatch) {
     std::vector<std::string> lines(1025, Line(" ", "S"));
     Fill(lines);
