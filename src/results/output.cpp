@@ -6,7 +6,7 @@
 namespace arbolith {
 
 OutputForm::OutputForm(Application& application)
-    : Form(application, "Output", "Output", {9135, 7065}) {
+    : Form(application, "Output", "Output", {9135, 7065}), CDL(application) {
     Open_Mnu.SetEnabled(false);  // a saved table can't be loaded back
 }
 

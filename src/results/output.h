@@ -2,6 +2,7 @@
 // and the reports.
 #pragma once
 
+#include "forms/common_dialog.h"
 #include "forms/controls.h"
 #include "forms/grid.h"
 #include "model_bridge/yield_table.h"
@@ -25,6 +26,9 @@ struct OutputForm : Form {
     MenuItem Select_All_Mnu{Edit_Mnu, "Select_All_Mnu", "&Select All (and Copy)", "Ctrl+A"};
     MenuItem Copy_Mnu{Edit_Mnu, "Copy_Mnu", "&Copy", "Ctrl+C"};
     MenuItem Definitions_Mnu{Edit_Mnu, "Definitions_Mnu", "&Column Header Definitions..."};
+
+    /// For the reports that are saved.
+    CommonDialog CDL;
 
     Label Title{*this, "Title", "", {120, 0, 9015, 375}, {.bold = true, .points = 12}};
     Label YTBH{*this, "YTBH", "", {2520, 360, 6615, 375}, {.bold = true, .points = 12}};
