@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFontDatabase>
 
 #include <filesystem>
 #include <string>
@@ -33,6 +34,13 @@ std::string ApplicationFolder() {
     return QFile::encodeName(folder.absolutePath()).toStdString();
 }
 
+// A portable folder brings its fonts along, for machines that have none.
+void AddFontsBesideProgram() {
+    const QDir fonts(QCoreApplication::applicationDirPath() + QStringLiteral("/fonts"));
+    for (const QString& file : fonts.entryList({QStringLiteral("*.ttf")}, QDir::Files))
+        QFontDatabase::addApplicationFont(fonts.filePath(file));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -40,6 +48,7 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(DropMessage);
     QApplication toolkit(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Arbolith"));
+    AddFontsBesideProgram();
     QApplication::setWindowIcon(ProgramIcon());
     // A moment without an open window is not the end: the forms say when that is.
     QApplication::setQuitOnLastWindowClosed(false);
