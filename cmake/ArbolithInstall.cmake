@@ -7,8 +7,8 @@
 add_custom_target(programs)
 
 if(TARGET arbolith)
-  add_dependencies(programs arbolith swqvl hwqvl)
-  install(TARGETS arbolith swqvl hwqvl RUNTIME DESTINATION .)
+  add_dependencies(programs arbolith notepad swqvl hwqvl)
+  install(TARGETS arbolith notepad swqvl hwqvl RUNTIME DESTINATION .)
   install(FILES README.md LICENSE CHANGELOG.md DESTINATION .)
   if(EXISTS ${CMAKE_SOURCE_DIR}/docs/open-models.md)
     install(FILES docs/open-models.md DESTINATION docs)

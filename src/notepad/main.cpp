@@ -1,0 +1,48 @@
+// A small text editor for batch files and text reports.
+#include "notepad/editor_window.h"
+#include "notepad/icon.h"
+#include "platform/version.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QSessionManager>
+
+#include <cstdio>
+#include <filesystem>
+
+namespace {
+
+constexpr int kWrongUse = 2;
+
+// The toolkit's own words are nothing for the person's terminal.
+void DropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+std::string FullPath(const QString& argument) {
+    const auto path = QFile::encodeName(argument).toStdString();
+    std::error_code failed;
+    const auto full = std::filesystem::absolute(path, failed);
+    return failed ? path : full.string();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using namespace arbolith::notepad;
+    qInstallMessageHandler(DropMessage);
+    QApplication toolkit(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Notepad"));
+    QApplication::setApplicationVersion(QString::fromLatin1(arbolith::kVersion));
+    QApplication::setWindowIcon(NotepadIcon());
+
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() > 2) {
+        std::fputs("usage: notepad [FILE]\n", stderr);
+        return kWrongUse;
+    }
+    EditorWindow window;
+    QObject::connect(&toolkit, &QGuiApplication::commitDataRequest, &window,
+                     [&window](QSessionManager& session) { window.EndSession(session); });
+    window.show();
+    if (arguments.size() == 2 && !window.Start(FullPath(arguments[1]))) return 1;
+    return QApplication::exec();
+}
