@@ -144,8 +144,10 @@ private:
     BatchPanel& panel_;
     Application& application_;
     NumberedFiles& files_;
-    Wood softwood_{"S", "Softwood", kSoftwoodFile, "_SOFT.TMP", "_SOFTOUT.TMP", panel_.SwdProg};
-    Wood hardwood_{"H", "Hardwood", kHardwoodFile, "_HARD.TMP", "_HARDOUT.TMP", panel_.HwdProg};
+    Wood softwood_{"S",         "Softwood",          kSoftwoodFile,
+                   "_SOFT.TMP", kSoftwoodOutputName, panel_.SwdProg};
+    Wood hardwood_{"H",         "Hardwood",          kHardwoodFile,
+                   "_HARD.TMP", kHardwoodOutputName, panel_.HwdProg};
     std::int16_t highestPlot_ = 0;
     std::int16_t nextNumber_ = 1;
 };

@@ -120,16 +120,22 @@ void SplitRow(std::string_view row, DataValues& datavals) {
     datavals.back() = row;
 }
 
-void WriteBlocks(Batch& batch, int outputFile) {
-    OutputLines lines(batch.run.application.Files(), outputFile);
-    BlockWriter blocks(batch);
+void ForEachOutputLine(NumberedFiles& files, int outputFile,
+                       const std::function<void(std::string_view)>& head,
+                       const std::function<void(std::string_view)>& row) {
+    OutputLines lines(files, outputFile);
     for (std::string line; lines.Take(line);) {
-        if (line.size() >= kShortestRow || lines.TookLast()) {
-            blocks.AddRow(line);
-        } else {
-            blocks.AddHead(line);
-        }
+        const bool isRow = line.size() >= kShortestRow || lines.TookLast();
+        (isRow ? row : head)(line);
     }
+}
+
+void WriteBlocks(Batch& batch, int outputFile) {
+    BlockWriter blocks(batch);
+    ForEachOutputLine(
+        batch.run.application.Files(), outputFile,
+        [&blocks](std::string_view line) { blocks.AddHead(line); },
+        [&blocks](std::string_view line) { blocks.AddRow(line); });
 }
 
 }  // namespace arbolith

@@ -1,0 +1,61 @@
+#include "cli/work_folder.h"
+
+#include "cli/exit_status.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+namespace arbolith::console {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// What other runs have left, or are at work with.
+bool IsExchangeFile(const std::string& name) {
+    return name.starts_with('_');
+}
+
+std::string NewFolder() {
+    std::error_code failed;
+    const auto parent = fs::temp_directory_path(failed);
+    if (failed)
+        throw Failure{ExitStatus::kCannotWrite,
+                      "there is no folder for temporary files: " + failed.message()};
+    auto path = (parent / "arbolith-XXXXXX").string();
+    if (mkdtemp(path.data()) == nullptr)
+        throw Failure{ExitStatus::kCannotWrite,
+                      parent.string() + ": " + std::generic_category().message(errno)};
+    return path;
+}
+
+void RemoveFolder(const std::string& path) {
+    std::error_code ignored;
+    fs::remove_all(path, ignored);
+}
+
+}  // namespace
+
+WorkFolder::WorkFolder(const std::string& modelFolder) : path_(NewFolder()) {
+    try {
+        LinkTo(modelFolder);
+    } catch (const fs::filesystem_error& error) {
+        RemoveFolder(path_);
+        throw Failure{ExitStatus::kModel, modelFolder + ": " + error.code().message()};
+    }
+}
+
+WorkFolder::~WorkFolder() {
+    RemoveFolder(path_);
+}
+
+void WorkFolder::LinkTo(const std::string& modelFolder) const {
+    for (const auto& entry : fs::directory_iterator(fs::canonical(modelFolder))) {
+        const auto name = entry.path().filename().string();
+        if (!IsExchangeFile(name)) fs::create_symlink(entry.path(), fs::path(path_) / name);
+    }
+}
+
+}  // namespace arbolith::console
