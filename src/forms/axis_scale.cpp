@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace arbolith {
 
@@ -11,20 +12,29 @@ constexpr int kWishedDivisions = 5;
 // More lines than this can't be told apart on any screen.
 constexpr int kMostDivisions = 200;
 
+// Beyond these a scale of round numbers would leave what a number can hold.
+constexpr double kLargest = 1e307;
+constexpr double kSmallest = 1e-290;
+// The ends for what lies beyond: their distance is still a number.
+constexpr double kLastResort = std::numeric_limits<double>::max() / 4;
+// Values that differ by less than this part of them can't be told apart.
+constexpr double kPrecision = 1e-9;
+constexpr int kRoomDivisor = 10;
+// A value this part of a division beyond a line still counts as on it.
+constexpr double kTolerance = 1e-9;
+
 // The next round number from here up: 1, 2, 2.5 or 5 times a power of ten.
 double RoundedUp(double step) {
     const double power = std::pow(10.0, std::floor(std::log10(step)));
     constexpr double kRound[] = {1, 2, 2.5, 5, 10};
     for (const double round : kRound)
-        if (step <= round * power * (1 + 1e-9)) return round * power;
+        if (step <= round * power * (1 + kTolerance)) return round * power;
     return 10 * power;
 }
 
-bool CanBeDrawn(const ToldScale& told) {
-    const auto isFinite = [](const std::optional<double>& end) { return end && std::isfinite(*end); };
-    return isFinite(told.Minimum) && isFinite(told.Maximum) && *told.Minimum < *told.Maximum &&
-           std::isfinite(*told.Maximum - *told.Minimum) && told.MajorDivision >= 1 &&
-           told.MajorDivision <= kMostDivisions;
+bool CanBeDrawn(double minimum, double maximum, int divisions) {
+    return std::isfinite(minimum) && std::isfinite(maximum) && minimum < maximum &&
+           std::isfinite(maximum - minimum) && divisions >= 1 && divisions <= kMostDivisions;
 }
 
 int MinorDivisions(const ToldScale& told) {
@@ -37,28 +47,26 @@ AxisScale AutomaticScale(double lowest, double highest) {
     if (!std::isfinite(lowest) || !std::isfinite(highest) || lowest > highest) return {};
     if (lowest >= 0 && lowest <= highest / 2) lowest = 0;
     if (highest <= 0 && highest >= lowest / 2) highest = 0;
-    if (lowest == highest) {
-        const double room = lowest == 0 ? 1 : std::abs(lowest) / 10;
-        lowest -= lowest == 0 ? 0 : room;
-        highest += room;
+    const double largest = std::max(std::abs(lowest), std::abs(highest));
+    if (largest > kLargest) return {-kLastResort, kLastResort, 2 * kWishedDivisions, 1};
+    if (highest - lowest <= std::max(kSmallest, largest * kPrecision)) {
+        if (largest <= kSmallest) return {};
+        lowest -= largest / kRoomDivisor;
+        highest += largest / kRoomDivisor;
     }
     const double step = RoundedUp((highest - lowest) / kWishedDivisions);
-    AxisScale scale;
-    const double first = std::floor(lowest / step + 1e-9);
-    const double last = std::ceil(highest / step - 1e-9);
-    scale.minimum = first * step;
-    scale.maximum = last * step;
-    scale.majorDivisions = static_cast<int>(last - first);
-    return scale;
+    const double first = std::floor(lowest / step + kTolerance);
+    const double last = std::ceil(highest / step - kTolerance);
+    return {first * step, last * step, static_cast<int>(last - first), 1};
 }
 
 AxisScale DrawnScaleOf(const ToldScale& told, double lowest, double highest) {
-    if (told.Auto || !CanBeDrawn(told)) {
-        auto scale = AutomaticScale(lowest, highest);
-        scale.minorDivisions = MinorDivisions(told);
-        return scale;
-    }
-    return {*told.Minimum, *told.Maximum, told.MajorDivision, MinorDivisions(told)};
+    auto scale = AutomaticScale(lowest, highest);
+    scale.minorDivisions = MinorDivisions(told);
+    const double minimum = told.Minimum.value_or(scale.minimum);
+    const double maximum = told.Maximum.value_or(scale.maximum);
+    if (told.Auto || !CanBeDrawn(minimum, maximum, told.MajorDivision)) return scale;
+    return {minimum, maximum, told.MajorDivision, scale.minorDivisions};
 }
 
 }  // namespace arbolith

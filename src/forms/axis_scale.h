@@ -28,12 +28,14 @@ struct AxisScale {
 };
 
 /// A scale of round numbers (1, 2, 2.5 or 5 times a power of ten a division) that holds all values
-/// from `lowest` to `highest`; it begins at 0 where that wastes less than half of it.
+/// from `lowest` to `highest`; it begins at 0 where that wastes less than half of it. Values too
+/// close together to be told apart get room around them; without finite values in order the scale
+/// goes from 0 to 1. Ends and width are always finite.
 AxisScale AutomaticScale(double lowest, double highest);
 
 /// The scale to draw: the told one where it is explicit and can be drawn (finite ends, minimum
 /// below maximum, at least one major division and few enough to tell apart), else the automatic
-/// one.
+/// one. An end that isn't told is that of the automatic scale.
 AxisScale DrawnScaleOf(const ToldScale& told, double lowest, double highest);
 
 }  // namespace arbolith

@@ -16,6 +16,15 @@ std::size_t At(int position) {
     return static_cast<std::size_t>(position - 1);
 }
 
+// Of a text that goes on behind its number, the number counts.
+double NumberIn(std::string_view text) {
+    try {
+        return ParseReal(text);
+    } catch (const RuntimeError&) {
+        return Val(text);
+    }
+}
+
 // The chart's data as a spreadsheet takes it: a heading line, then a line a row, tabs between the
 // cells. In front stands what the points stand over: of a scatter chart the X values, which its
 // series share, under the title of their axis, else the row labels.
@@ -81,8 +90,7 @@ void Chart::SetChartData(const std::vector<std::vector<std::string>>& rows) {
     for (std::size_t row = 0; row < data_.size(); ++row) {
         if (rows[row + 1].size() != columnLabels_.size())
             throw RuntimeError(ErrorNumber::kInvalidCall);
-        std::transform(rows[row + 1].begin(), rows[row + 1].end(), data_[row].begin(),
-                       [](const std::string& text) { return Val(text); });
+        std::transform(rows[row + 1].begin(), rows[row + 1].end(), data_[row].begin(), NumberIn);
     }
     Touch();
 }
@@ -98,6 +106,10 @@ void Chart::SetData(int row, int column, double value) {
     CheckColumn(column);
     data_[At(row)][At(column)] = value;
     Touch();
+}
+
+void Chart::SetData(int row, int column, std::string_view text) {
+    SetData(row, column, NumberIn(text));
 }
 
 const std::string& Chart::ColumnLabel(int column) const {
@@ -133,6 +145,12 @@ void Chart::SetAxis(int axis, const ChartAxis& values) {
     Touch();
 }
 
+void Chart::ChangeAxis(int axis, const std::function<void(ChartAxis&)>& change) {
+    auto values = Axis(axis);
+    change(values);
+    SetAxis(axis, values);
+}
+
 double Chart::Minimum(int axis) const {
     return Axis(axis).Scale.Minimum.value_or(DrawnScale(axis).minimum);
 }
@@ -144,14 +162,13 @@ double Chart::Maximum(int axis) const {
 AxisScale Chart::DrawnScale(int axis) const {
     const auto& told = Axis(axis).Scale;
     const bool isXy = type_ == Type::kXyScatter;
-    // The X axis of bars counts its rows; that of a scatter chart reads every other column.
-    if (axis != kAxisY && !isXy) return DrawnScaleOf(told, 0, RowCount());
-    double lowest = std::numeric_limits<double>::infinity();
+    if (axis == kAxisX && !isXy) return DrawnScaleOf(told, 0, RowCount());
+    // Bars stand on 0. A scatter chart's X and Y values take turns.
+    double lowest = isXy ? std::numeric_limits<double>::infinity() : 0;
     double highest = -lowest;
-    const int step = isXy ? 2 : 1;
-    const int first = isXy && axis == kAxisY ? 2 : 1;
+    const int first = isXy && axis != kAxisX ? 2 : 1;
     for (const auto& row : data_)
-        for (int column = first; column <= ColumnCount(); column += step) {
+        for (int column = first; column <= ColumnCount(); column += isXy ? 2 : 1) {
             lowest = std::min(lowest, row[At(column)]);
             highest = std::max(highest, row[At(column)]);
         }

@@ -9,6 +9,7 @@
 #include <array>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace arbolith {
@@ -68,6 +69,7 @@ public:
     enum class Type { kBar2d = 1, kXyScatter = 16 };
     static constexpr int kAxisX = 0;
     static constexpr int kAxisY = 1;
+    static constexpr int kAxisSecondY = 2;
     /// X, Y, a second Y and Z; the last two are never drawn.
     static constexpr int kAxes = 4;
 
@@ -85,13 +87,15 @@ public:
     void SetSize(int rows, int columns);
     void SetColumnCount(int columns) { SetSize(RowCount(), columns); }
     void SetRowCount(int rows) { SetSize(rows, ColumnCount()); }
-    /// All data at once: the first row holds the column labels, the others the data as texts, of
-    /// which a number's leading part counts. Row labels are emptied.
+    /// All data at once: the first row holds the column labels, the others the data as texts. Row
+    /// labels are emptied.
     void SetChartData(const std::vector<std::vector<std::string>>& rows);
 
     /// Throw 9 outside the chart.
     double Data(int row, int column) const;
     void SetData(int row, int column, double value);
+    /// The number that a text is, or begins with; 0 for none.
+    void SetData(int row, int column, std::string_view text);
     const std::string& ColumnLabel(int column) const;
     void SetColumnLabel(int column, const std::string& label);
     const std::string& RowLabel(int row) const;
@@ -99,6 +103,8 @@ public:
 
     const ChartAxis& Axis(int axis) const;
     void SetAxis(int axis, const ChartAxis& values);
+    /// `change` is called with the axis to change.
+    void ChangeAxis(int axis, const std::function<void(ChartAxis&)>& change);
     /// The ends of an axis: the told ones, also while the scale is automatic; until they are told,
     /// those that are drawn.
     double Minimum(int axis) const;

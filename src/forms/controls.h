@@ -27,8 +27,9 @@ public:
         Alignment alignment = Alignment::kLeft;
         bool wraps = false;
         bool bold = false;
-        int points = 0;     ///< Font size, 0 for the desktop's own.
-        bool link = false;  ///< Underlined, with a hand over it.
+        int points = 0;         ///< Font size, 0 for the desktop's own.
+        bool link = false;      ///< Underlined, with a hand over it.
+        bool bordered = false;  ///< Looks like something to press.
     };
 
     Label(Control& parent, std::string name, std::string caption = "", Place place = {});

@@ -193,14 +193,18 @@ private:
 NumberedFiles::NumberedFiles() = default;
 NumberedFiles::~NumberedFiles() = default;
 
-void NumberedFiles::Open(int number, const std::string& path, Use use) {
+std::unique_ptr<NumberedFiles::File> NumberedFiles::OpenFile(const std::string& path, Use use) {
     if (use != Use::kInput && !NameCanBeCreated(path))
         throw RuntimeError(ErrorNumber::kBadFileName);
-    if (files_.contains(number)) throw RuntimeError(ErrorNumber::kFileAlreadyOpen);
     std::error_code ignored;
     if (path.empty() || std::filesystem::is_directory(path, ignored))
         throw RuntimeError(ErrorNumber::kPathFileAccess);
-    files_.emplace(number, std::make_unique<File>(path, use));
+    return std::make_unique<File>(path, use);
+}
+
+void NumberedFiles::Open(int number, const std::string& path, Use use) {
+    if (files_.contains(number)) throw RuntimeError(ErrorNumber::kFileAlreadyOpen);
+    files_.emplace(number, OpenFile(path, use));
 }
 
 void NumberedFiles::OpenForInput(int number, const std::string& path) {
@@ -217,6 +221,12 @@ void NumberedFiles::OpenForReplacement(int number, const std::string& path) {
 
 void NumberedFiles::OpenForAppend(int number, const std::string& path) {
     Open(number, path, Use::kAppend);
+}
+
+void NumberedFiles::WriteWhole(const std::string& path, std::string_view bytes) {
+    const auto file = OpenFile(path, Use::kOutput);
+    file->Write(bytes);
+    file->Finish();
 }
 
 NumberedFiles::File& NumberedFiles::Opened(int number) {

@@ -31,6 +31,9 @@ public:
     void OpenForReplacement(int number, const std::string& path);
     void OpenForAppend(int number, const std::string& path);
 
+    /// Creates or overwrites a file with these bytes; takes no number.
+    static void WriteWhole(const std::string& path, std::string_view bytes);
+
     /// Writes the text and CR LF.
     void PrintLine(int number, std::string_view text);
 
@@ -60,6 +63,7 @@ public:
 private:
     class File;
     enum class Use { kInput, kOutput, kAppend, kReplacement };
+    static std::unique_ptr<File> OpenFile(const std::string& path, Use use);
     File& Opened(int number);
     void Open(int number, const std::string& path, Use use);
 

@@ -31,6 +31,7 @@ public:
         setTextFormat(Qt::PlainText);
         setAlignment(AlignmentOf(label.GetLook()));
         setWordWrap(label.GetLook().wraps);
+        if (label.GetLook().bordered) setFrameStyle(QFrame::Panel | QFrame::Raised);
         if (label.GetLook().link) setCursor(Qt::PointingHandCursor);
     }
 

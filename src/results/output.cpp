@@ -17,6 +17,11 @@ void Output::SetReportTexts(const std::string& ytbh, const std::string& runLine)
     OutputRunLine = runLine;
 }
 
+void Output::EnableGraphs() {
+    for (Button* button : {&form.grphCumVol, &form.grphCumMai, &form.graphMai})
+        button->SetEnabled(true);
+}
+
 void Output::Copy_Mnu_Click() {
     const auto clip = form.Table.Clip();
     if (clip.empty()) application_.ShowBox("Please select something on table before copying");

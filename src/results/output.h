@@ -54,6 +54,11 @@ public:
     std::string OutputYTBH;     ///< Years from stump to breast height.
     std::string OutputRunLine;  ///< "0", a tab, "S" or "H", a tab, the run line.
 
+    double YAxisMax = 0;                      ///< Largest Y value of the graph; once drawn, the end
+                                              ///< of its Y axis.
+    int XColumn = 0;                          ///< Table column of the graph's X variable.
+    std::vector<std::int16_t> SeriesColumns;  ///< Table columns of its Y series; 0 for none.
+
     /// Puts the selection on the clipboard; warns when it is empty.
     void Copy_Mnu_Click();
     /// Selects the codes and all data rows, and copies them.
@@ -64,8 +69,7 @@ public:
     Label& Title() override { return form.Title; }
     Label& YTBH() override { return form.YTBH; }
     void SetReportTexts(const std::string& ytbh, const std::string& runLine) override;
-    /// Nothing yet: the graphs are to come, and their buttons stand disabled.
-    void EnableGraphs() override {}
+    void EnableGraphs() override;
     void CopySelection() override { Copy_Mnu_Click(); }
 
 private:

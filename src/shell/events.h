@@ -1,17 +1,41 @@
 // What each event of each form does: the one place to look up what a click or a key sets off.
 #pragma once
 
+#include "charts/custom_chart.h"
+#include "charts/graph_builder.h"
+#include "forms/at_first_use.h"
 #include "forms/resize.h"
 #include "model_bridge/run_command.h"
+#include "results/definitions.h"
 #include "results/output.h"
 #include "run_definition/run_definition.h"
 
 namespace arbolith {
 
 /// Wires every event of the main form.
-void WireMainForm(RunDefinition& run, RunCommand& command, Resize& resize);
+void WireMainForm(RunDefinition& run, RunCommand& command, AtFirstUse<Definitions>& definitions,
+                  Resize& resize);
+
+/// What the Output window leads to.
+struct OutputTargets {
+    GraphBuilder& graphs;
+    AtFirstUse<CustomChart>& customChart;
+    AtFirstUse<Definitions>& definitions;
+};
 
 /// Wires every event of the Output window.
-void WireOutput(Application& application, Output& output, Resize& resize);
+void WireOutput(Output& output, const OutputTargets& targets, Resize& resize);
+
+/// Wires every event of the chart window.
+void WireChartWindow(ChartWindow& window, GraphBuilder& graphs, Resize& resize);
+
+/// Wires every event of the chart's options.
+void WireChartOptions(ChartOptions& options, Resize& resize);
+
+/// Wires every event of the custom chart's window.
+void WireCustomChart(CustomChart& window, AtFirstUse<Definitions>& definitions, Resize& resize);
+
+/// Wires every event of the definitions window.
+void WireDefinitions(Definitions& definitions, Resize& resize);
 
 }  // namespace arbolith

@@ -254,20 +254,27 @@ void WireCommands(RunDefinition& run, RunCommand& command) {
     form.Close_Mnu.onClick = form.Exit_Program.onClick = [&run] { run.application.End(); };
 }
 
+void WireHelp(MainForm& form, AtFirstUse<Definitions>& definitions) {
+    form.Definitions_Mnu.onClick = [&definitions] {
+        definitions.Get().ShowSiteTerms();
+        definitions.Get().Open();
+    };
+}
+
 // The file commands, the batch view, its way back and the documents: their work isn't in the
 // program yet.
 void DisableWhatIsToCome(MainForm& form) {
-    for (Control* control :
-         std::initializer_list<Control*>{&form.New_Mnu, &form.Open_Mnu, &form.Save_Mnu,
-                                         &form.SaveAs_Mnu, &form.AppendToBatch_Mnu, &form.Batch_Mnu,
-                                         &form.Single_Mnu, &form.Help, &form.Definitions_Mnu,
-                                         &form.NSpruceHelp, &form.Help4a})
+    for (Control* control : std::initializer_list<Control*>{
+             &form.New_Mnu, &form.Open_Mnu, &form.Save_Mnu, &form.SaveAs_Mnu,
+             &form.AppendToBatch_Mnu, &form.Batch_Mnu, &form.Single_Mnu, &form.Help,
+             &form.NSpruceHelp, &form.Help4a})
         control->SetEnabled(false);
 }
 
 }  // namespace
 
-void WireMainForm(RunDefinition& run, RunCommand& command, Resize& resize) {
+void WireMainForm(RunDefinition& run, RunCommand& command, AtFirstUse<Definitions>& definitions,
+                  Resize& resize) {
     WireStepButtons(run);
     WireStep1(run);
     WireStep2(run);
@@ -278,6 +285,7 @@ void WireMainForm(RunDefinition& run, RunCommand& command, Resize& resize) {
     WireStep7(run);
     WireFocus(run);
     WireCommands(run, command);
+    WireHelp(run.form, definitions);
     run.form.onResize = [&run, &resize] { resize.ResizeForm(run.form); };
     run.form.onClose = [&run] { CloseMainForm(run); };
     DisableWhatIsToCome(run.form);

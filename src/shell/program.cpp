@@ -24,10 +24,11 @@ Program::Program(Application& application)
       splash_(application),
       run_(application),
       batch_(run_),
-      runCommand_{run_, [this]() -> YieldTable& { return LoadOutput(); }, [] {}} {
+      results_(run_, resize_),
+      runCommand_{run_, [this]() -> YieldTable& { return results_.output.Get(); }, [] {}} {
     run_.probeTreatments = [this] { TreatmentProbe(run_); };
     run_.onReset = [this] { ForgetBatch(batch_); };
-    WireMainForm(run_, runCommand_, resize_);
+    WireMainForm(run_, runCommand_, results_.definitions, resize_);
 }
 
 void Program::Start() {
@@ -71,14 +72,6 @@ void Program::Centre(Form& form) {
     place.top = screen.height / 2 - place.height / 2 - kAboveCentre;
     place.left = screen.width / 2 - place.width / 2;
     form.SetPlace(place);
-}
-
-Output& Program::LoadOutput() {
-    if (!output_) {
-        output_ = std::make_unique<Output>(application_);
-        WireOutput(application_, *output_, resize_);
-    }
-    return *output_;
 }
 
 }  // namespace arbolith

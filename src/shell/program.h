@@ -4,11 +4,9 @@
 #include "batch/batch.h"
 #include "forms/resize.h"
 #include "model_bridge/run_command.h"
-#include "results/output.h"
 #include "run_definition/run_definition.h"
+#include "shell/result_windows.h"
 #include "shell/splash.h"
-
-#include <memory>
 
 namespace arbolith {
 
@@ -23,22 +21,20 @@ public:
     Splash& GetSplash() { return splash_; }
     RunDefinition& Run() { return run_; }
     Batch& GetBatch() { return batch_; }
-    /// The Output window; null until its first use.
-    Output* FindOutput() { return output_.get(); }
+    ResultWindows& Results() { return results_; }
 
 private:
     void LoadSplash();
     void LoadMainForm();
     void EndSplash();
     void Centre(Form& form);
-    Output& LoadOutput();
 
     Application& application_;
     Resize resize_;
     Splash splash_;
     RunDefinition run_;
     Batch batch_;
-    std::unique_ptr<Output> output_;
+    ResultWindows results_;
     RunCommand runCommand_;
 };
 

@@ -79,7 +79,7 @@ double RunRatio() {
     WindowedProgram windowed(folder.Path());
     windowed.ClickRun();
     PaintWatch watch;
-    auto* table = windowed.windows.WindowOf(windowed.program.FindOutput()->form)
+    auto* table = windowed.windows.WindowOf(windowed.program.Results().output.Find()->form)
                       ->findChild<QAbstractScrollArea*>(QStringLiteral("Table"));
     watch.Watch(table->viewport());
     return MedianRatio(

@@ -1,4 +1,5 @@
 // The pure functions that scripts can ask for.
+#include "charts/graph_titles.h"
 #include "form_script/variables.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
@@ -31,6 +32,9 @@ FunctionTable MakeFunctions(Program& program) {
                                                            ToInt16(NumberIn(arguments[1])),
                                                            run.form.choose_Metric.Value());
                                 }};
+    table["GetAxisTitle"] = {1, [&run](const Arguments& arguments) {
+                                 return GetAxisTitle(ToInt16(NumberIn(arguments[0])), run.globals);
+                             }};
     return table;
 }
 

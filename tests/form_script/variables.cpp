@@ -1,10 +1,13 @@
 #include "form_script/variables.h"
 
 #include "form_script/stage.h"
+#include "platform/runtime_error.h"
 
+#include <iterator>
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace arbolith {
 
@@ -70,19 +73,57 @@ void AddRun(VariableTable& table, const RunDefinition& run) {
     add("TreatmentKeysOpen", &RunDefinition::TreatmentKeysOpen);
 }
 
-// The window comes into being at its first use only.
-void AddOutput(VariableTable& table, Program& program) {
-    const auto add = [&](const char* name, auto field) {
-        table.emplace(name,
-                      Variable{0, [&program, field](const auto&) {
-                                   const Output* output = program.FindOutput();
-                                   if (output == nullptr)
-                                       throw StepFailed("that the form Output was not created yet");
-                                   return ToValue(output->*field);
-                               }});
-    };
-    add("Output.OutputYTBH", &Output::OutputYTBH);
-    add("Output.OutputRunLine", &Output::OutputRunLine);
+// A window comes into being at its first use only.
+template <class Window>
+const Window& Created(const AtFirstUse<Window>& window, const std::string& name) {
+    const Window* created = window.Find();
+    if (created == nullptr) throw StepFailed("that the form " + name + " was not created yet");
+    return *created;
+}
+
+// The fields of a window, under its form's name.
+template <class Window>
+class WindowFields {
+public:
+    WindowFields(VariableTable& table, const AtFirstUse<Window>& window, std::string form)
+        : table_(table), window_(window), form_(std::move(form)) {}
+
+    template <class T>
+    void Add(const std::string& name, T Window::*field) {
+        table_.emplace(form_ + "." + name,
+                       Variable{0, [&window = window_, form = form_, field](const auto&) {
+                                    return ToValue(Created(window, form).*field);
+                                }});
+    }
+    template <class T>
+    void Add(const std::string& name, std::vector<T> Window::*field) {
+        table_.emplace(form_ + "." + name,
+                       Variable{1, [&window = window_, form = form_, field](const auto& at) {
+                                    const auto& elements = Created(window, form).*field;
+                                    if (at[0] < 0 || at[0] >= std::ssize(elements))
+                                        throw RuntimeError(ErrorNumber::kSubscript);
+                                    return ToValue(elements[static_cast<std::size_t>(at[0])]);
+                                }});
+    }
+
+private:
+    VariableTable& table_;
+    const AtFirstUse<Window>& window_;
+    std::string form_;
+};
+
+void AddResults(VariableTable& table, const ResultWindows& results) {
+    WindowFields output(table, results.output, "Output");
+    output.Add("OutputYTBH", &Output::OutputYTBH);
+    output.Add("OutputRunLine", &Output::OutputRunLine);
+    output.Add("YAxisMax", &Output::YAxisMax);
+    output.Add("XColumn", &Output::XColumn);
+    output.Add("SeriesColumns", &Output::SeriesColumns);
+    WindowFields chart(table, results.chart, "Chart_Frm");
+    chart.Add("XYEnabled", &ChartWindow::XYEnabled);
+    WindowFields options(table, results.chartOptions, "Chart_Opt");
+    options.Add("autosetx", &ChartOptions::autosetx);
+    options.Add("autosety", &ChartOptions::autosety);
 }
 
 }  // namespace
@@ -91,7 +132,7 @@ VariableTable MakeVariables(Program& program) {
     VariableTable table;
     AddRecord(table, program.Run().record);
     AddRun(table, program.Run());
-    AddOutput(table, program);
+    AddResults(table, program.Results());
     return table;
 }
 

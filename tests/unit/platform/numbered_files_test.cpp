@@ -53,6 +53,18 @@ TEST_F(NumberedFilesTest, CreatesAMissingFileOpenedForAppend) {
     EXPECT_TRUE(std::filesystem::exists(PathOf("out.txt")));
 }
 
+TEST_F(NumberedFilesTest, WritesAFileOfBytesWithoutANumber) {
+    const std::string bytes("BM\0\r\n", 5);
+    folder_.Write("out.bmp", "a longer earlier picture");
+    NumberedFiles::WriteWhole(PathOf("out.bmp"), bytes);
+    EXPECT_EQ(folder_.Read("out.bmp"), bytes);
+    NumberedFiles::WriteWhole(PathOf("new.bmp"), "");
+    EXPECT_EQ(folder_.Read("new.bmp"), "");
+    EXPECT_ERROR(75, NumberedFiles::WriteWhole(PathOf("."), bytes));
+    EXPECT_ERROR(76, NumberedFiles::WriteWhole(PathOf("missing/out.bmp"), bytes));
+    EXPECT_ERROR(52, NumberedFiles::WriteWhole(PathOf("a?.bmp"), bytes));
+}
+
 TEST_F(NumberedFilesTest, WritesMoreThanItsBufferWhole) {
     const std::string line(1000, 'x');
     std::string expected;

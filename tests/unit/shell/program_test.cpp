@@ -50,7 +50,7 @@ TEST_F(ProgramTest, ShowsTheSplashWithTheMainFormReadyBehindIt) {
     EXPECT_EQ(form.Caption(), std::string("Arbolith ") + kVersion);
     EXPECT_EQ(form.Step1_Type.Caption(), "Softwood");
     EXPECT_EQ(splash.Pointer(), MousePointer::kDefault);
-    EXPECT_EQ(program.FindOutput(), nullptr);
+    EXPECT_EQ(program.Results().output.Find(), nullptr);
 }
 
 TEST_F(ProgramTest, TimesTheSplash) {
@@ -201,14 +201,14 @@ TEST_F(ProgramTest, CreatesTheOutputWindowAtTheFirstRunAndKeepsIt) {
     EnterStand();
     ModelWrites(ModelOutput({{.sage = 5}}));
     person.Click(form.Run);
-    Output* output = program.FindOutput();
+    Output* output = program.Results().output.Find();
     ASSERT_NE(output, nullptr);
     EXPECT_TRUE(output->form.Visible());
     person.Close(output->form);
     EXPECT_FALSE(output->form.Visible());
     EXPECT_FALSE(host.ended);
     person.Click(form.Run);
-    EXPECT_EQ(program.FindOutput(), output);
+    EXPECT_EQ(program.Results().output.Find(), output);
     EXPECT_TRUE(output->form.Visible());
 }
 
@@ -217,7 +217,7 @@ TEST_F(ProgramTest, HidesOutputByItsMenuAndEndsByItsExit) {
     EnterStand();
     ModelWrites(ModelOutput({{.sage = 5}}));
     person.Click(form.Run);
-    auto& window = program.FindOutput()->form;
+    auto& window = program.Results().output.Find()->form;
     person.Click(window.Close_Window_Mnu);
     EXPECT_FALSE(window.Visible());
     EXPECT_EQ(window.Table.Rows(), 3);
