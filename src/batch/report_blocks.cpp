@@ -111,11 +111,12 @@ private:
 }  // namespace
 
 void SplitRow(std::string_view row, DataValues& datavals) {
+    row = Trimmed(row);
     for (std::size_t i = 0; i + 1 < datavals.size(); ++i) {
         const auto end = row.find(' ');
         if (end == std::string_view::npos) throw RuntimeError(ErrorNumber::kInvalidCall);
         datavals[i] = row.substr(0, end);
-        row = Trimmed(row.substr(end));
+        row.remove_prefix(row.find_first_not_of(' ', end));
     }
     datavals.back() = row;
 }

@@ -37,11 +37,13 @@ void BatchIntegerize(DataValues& datavals);
 void BatchGetDataLengths(const DataValues& datavals, std::string_view plot,
                          DataLengths& datalengths);
 
-/// The line of a row, without a line end. Throws 5 for a plot label that is longer than its column.
+/// The line of a row, without a line end, in the widths of its values. Throws 5 for a plot label
+/// that is longer than its column.
 std::string BatchGetLineOutput(const DataValues& datavals, std::string_view plot,
                                const DataLengths& datalengths);
 
-/// Appends the columns of the variables, right-aligned in their widths, with a tab between them.
+/// Appends the columns of the variables with a tab between them, right-aligned in the widths of
+/// these values.
 void AppendVariables(std::string& line, const DataValues& datavals, const DataLengths& datalengths);
 
 }  // namespace arbolith

@@ -10,8 +10,11 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kLineEnds = "\r\n";
-constexpr std::string_view kEndsOfItem = ",\r\n";
 constexpr char kQuote = '"';
+
+bool EndsItem(char c) {
+    return c == ',' || c == '\r' || c == '\n';
+}
 
 }  // namespace
 
@@ -23,7 +26,8 @@ std::string_view ItemReader::Read() {
 }
 
 std::string_view ItemReader::TakePlain() {
-    const auto item = rest_.substr(0, rest_.find_first_of(kEndsOfItem));
+    const auto end = std::find_if(rest_.begin(), rest_.end(), EndsItem);
+    const auto item = rest_.substr(0, static_cast<std::size_t>(end - rest_.begin()));
     Take(item.size());
     return item;
 }

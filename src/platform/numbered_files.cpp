@@ -33,6 +33,10 @@ bool IsBlank(int c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
+bool EndsLine(char c) {
+    return c == '\r' || c == '\n';
+}
+
 // An output file is overwritten in place and cut at its new end when it is closed. Emptying it
 // first would make some file systems write it out at the close, which takes longer than a model
 // does.
@@ -154,11 +158,11 @@ private:
 
     // Moves what stands in the buffer before the next line end; whether that was found.
     bool TakeToLineEnd() {
-        const std::string_view left(buffer_.data() + position_, buffer_.size() - position_);
-        const auto length = std::min(left.find_first_of("\r\n"), left.size());
-        line_.append(left, 0, length);
-        position_ += length;
-        return length != left.size();
+        const auto begin = buffer_.begin() + static_cast<std::ptrdiff_t>(position_);
+        const auto end = std::find_if(begin, buffer_.end(), EndsLine);
+        line_.append(begin, end);
+        position_ = static_cast<std::size_t>(end - buffer_.begin());
+        return end != buffer_.end();
     }
 
     // Takes away what an earlier, longer text left. A device has nothing to cut.
