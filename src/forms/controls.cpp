@@ -15,7 +15,7 @@ Label::Label(Control& parent, std::string name, std::string caption, Place place
 
 Label::Label(Control& parent, std::string name, std::string caption, Place place, Look look)
     : Control(ControlKind::kLabel, parent, std::move(name), std::move(caption), place),
-      look_(look) {}
+      look_(std::move(look)) {}
 
 Button::Button(Control& parent, std::string name, std::string caption, Place place)
     : Control(ControlKind::kButton, parent, std::move(name), std::move(caption), place) {}
@@ -88,7 +88,12 @@ bool TextBox::HasRoomForKey() const {
 }
 
 ListBox::ListBox(Control& parent, std::string name, Place place)
-    : ListBox(ControlKind::kListBox, parent, std::move(name), place) {}
+    : ListBox(parent, std::move(name), place, Look{}) {}
+
+ListBox::ListBox(Control& parent, std::string name, Place place, Look look)
+    : ListBox(ControlKind::kListBox, parent, std::move(name), place) {
+    look_ = std::move(look);
+}
 
 ListBox::ListBox(ControlKind kind, Control& parent, std::string name, Place place)
     : Control(kind, parent, std::move(name), "", place) {}

@@ -19,6 +19,14 @@ public:
 
 enum class Alignment { kLeft, kRight, kCentre };
 
+/// Where a column of a text begins. In a line of text a run of tabs leads to the next column that
+/// stands behind a tab, a run of blanks to the next one before that.
+struct TextColumn {
+    int left = 0;  ///< Twips, from the inside of the list.
+    bool behindTab = false;
+};
+using TextColumns = std::vector<TextColumn>;
+
 /// A text that a person reads. A greyed out label is a disabled one.
 class Label : public Control {
 public:
@@ -30,6 +38,8 @@ public:
         int points = 0;         ///< Font size, 0 for the desktop's own.
         bool link = false;      ///< Underlined, with a hand over it.
         bool bordered = false;  ///< Looks like something to press.
+        /// The heading of a list with these columns: runs of blanks lead from one to the next.
+        TextColumns columns = {};
     };
 
     Label(Control& parent, std::string name, std::string caption = "", Place place = {});
@@ -120,8 +130,16 @@ private:
 /// Rows of text, one of which may be selected. Also the list of a combo box.
 class ListBox : public Control {
 public:
-    ListBox(Control& parent, std::string name, Place place = {});
+    /// How the rows stand; fixed when the form is made.
+    struct Look {
+        std::string font = {};     ///< Empty for the desktop's own.
+        TextColumns columns = {};  ///< None: rows are plain text.
+    };
 
+    ListBox(Control& parent, std::string name, Place place = {});
+    ListBox(Control& parent, std::string name, Place place, Look look);
+
+    const Look& GetLook() const { return look_; }
     const std::vector<std::string>& List() const { return rows_; }
     int ListCount() const { return static_cast<int>(rows_.size()); }
     int ListIndex() const { return index_; }
@@ -141,6 +159,7 @@ protected:
     ListBox(ControlKind kind, Control& parent, std::string name, Place place);
 
 private:
+    Look look_;
     std::vector<std::string> rows_;
     int index_ = -1;
 };

@@ -1,11 +1,14 @@
-// A label: plain text, a heading, or a link to click. The access key of one leads to the field
-// behind it.
+// A label: plain text, a heading, the headings of a list's columns, or a link to click. The access
+// key of one leads to the field behind it.
 #include "qt/form_window.h"
 #include "qt/scale.h"
+#include "qt/text_columns.h"
 #include "qt/texts.h"
 #include "qt/views.h"
 
 #include <QLabel>
+#include <QPainter>
+#include <QStyle>
 
 namespace arbolith {
 
@@ -27,12 +30,16 @@ Qt::Alignment AlignmentOf(const Label::Look& look) {
 class LabelView final : public QLabel, public View {
 public:
     LabelView(Label& label, FormWindow& window)
-        : QLabel(window.InsideOf(label.Parent())), View(label, window, this), label_(label) {
+        : QLabel(window.InsideOf(label.Parent())),
+          View(label, window, this),
+          label_(label),
+          columns_(label.GetLook().columns) {
         setTextFormat(Qt::PlainText);
         setAlignment(AlignmentOf(label.GetLook()));
         setWordWrap(label.GetLook().wraps);
         if (label.GetLook().bordered) setFrameStyle(QFrame::Panel | QFrame::Raised);
         if (label.GetLook().link) setCursor(Qt::PointingHandCursor);
+        for (auto& column : columns_) column.behindTab = false;
     }
 
     void Refresh() override {
@@ -47,6 +54,16 @@ public:
     }
 
 protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (columns_.empty()) return QLabel::paintEvent(event);
+        QPainter painter(this);
+        painter.setPen(palette().color(foregroundRole()));
+        // The rows below stand within the edge of their list.
+        const int edge = style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+        DrawInColumns(painter, rect().adjusted(edge, 0, -edge, 0), text(), columns_,
+                      Window().GetScale());
+    }
+
     void mousePressEvent(QMouseEvent* event) override { PassMouse(*event); }
     void mouseReleaseEvent(QMouseEvent* event) override { PassMouse(*event); }
     void mouseDoubleClickEvent(QMouseEvent* event) override { PassMouse(*event); }
@@ -74,6 +91,7 @@ private:
     }
 
     Label& label_;
+    TextColumns columns_;
 };
 
 }  // namespace

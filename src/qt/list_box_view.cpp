@@ -1,5 +1,6 @@
 // A list of rows, one of which may be selected.
 #include "qt/form_window.h"
+#include "qt/text_columns.h"
 #include "qt/texts.h"
 #include "qt/views.h"
 
@@ -59,9 +60,12 @@ public:
         setUniformItemSizes(true);
         setEditTriggers(NoEditTriggers);
         setModel(rows_);
+        const auto& columns = list.GetLook().columns;
+        if (!columns.empty()) setItemDelegate(new RowsInColumns(columns, window.GetScale(), this));
     }
 
     void Refresh() override {
+        RefreshFont();
         rows_->Update();
         const QModelIndex wanted = rows_->index(list_.ListIndex());
         if (currentIndex() != wanted) {
@@ -107,6 +111,13 @@ protected:
     }
 
 private:
+    void RefreshFont() {
+        if (list_.GetLook().font.empty()) return;
+        QFont told = Window().font();
+        told.setFamily(ToQString(list_.GetLook().font));
+        if (font() != told) setFont(told);
+    }
+
     void Select(int row) {
         if (list_.ListCount() == 0) return;
         const int inside = std::clamp(row, 0, list_.ListCount() - 1);
