@@ -84,6 +84,8 @@ void Interpreter::RunDuring(int number) {
     std::vector<DuringSteps> due(std::make_move_iterator(mine),
                                  std::make_move_iterator(waiting.end()));
     waiting.erase(mine, waiting.end());
+    // A person sees what the program shows before it waits.
+    if (!due.empty() && stage_.application.onSettled) stage_.application.onSettled();
     for (const auto& during : due) Run(*during.steps);
 }
 
