@@ -12,6 +12,12 @@ inline constexpr const char* kInputError = "<< ERROR. Select a file >>";
 inline constexpr const char* kNoOutputSelected = "<< No Output File Selected >>";
 inline constexpr const char* kOutputError = "<< Error: Select a file >>";
 
+/// The columns of the list of sequences: plot, unit, regeneration, species and stocking, site,
+/// rotation, treatments. Those of the heading above it are the same.
+inline const TextColumns kSequenceColumns = {{0, true},    {1140, true},  {1740, false},
+                                             {3480, true}, {5160, false}, {6300, true},
+                                             {7980, false}};
+
 struct BatchPanel {
     /// Makes the controls on the form's frame Batch.
     explicit BatchPanel(MainForm& mainForm);
@@ -39,8 +45,12 @@ struct BatchPanel {
                  "Label1",
                  "Plot#      Unit   Regen             Species/stock      Site              "
                  "Rotation        Treatments",
-                 {240, 360, 13440, 285}};
-    ListBox Batch_Seq{Batch_Sequence, "Batch_Seq", {240, 720, 13440, 2880}};
+                 {240, 360, 13440, 285},
+                 {.columns = kSequenceColumns}};
+    ListBox Batch_Seq{Batch_Sequence,
+                      "Batch_Seq",
+                      {240, 720, 13440, 2880},
+                      {"Times New Roman", kSequenceColumns}};
     Label Label7{Batch_Sequence,
                  "Label7",
                  "Double Clicking on an item in the list will let you edit it.",

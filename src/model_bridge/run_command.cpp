@@ -28,17 +28,7 @@ void CopyTable(YieldTable& result) {
 
 void RunOrApply(RunCommand& command) {
     auto& run = command.run;
-    ApplyStep7(run);
-    run.StepErrorFlag = false;
-    TreatmentProbe(run);
-    CheckStep7(run, TreatmentCheck::kEverything);
-    if (run.StepErrorFlag) {
-        ShowFailedStep(run);
-        ShowInputError(run);
-        return;
-    }
-    EnableSteps(run, kEverythingEnabled);
-    CommitStep7(run);
+    if (!CommitFaultlessRun(run)) return;
     if (run.form.Run.Caption() == "Apply") {
         command.applySequence();
     } else {
@@ -48,6 +38,21 @@ void RunOrApply(RunCommand& command) {
 }
 
 }  // namespace
+
+bool CommitFaultlessRun(RunDefinition& run) {
+    ApplyStep7(run);
+    run.StepErrorFlag = false;
+    TreatmentProbe(run);
+    CheckStep7(run, TreatmentCheck::kEverything);
+    if (run.StepErrorFlag) {
+        ShowFailedStep(run);
+        ShowInputError(run);
+        return false;
+    }
+    EnableSteps(run, kEverythingEnabled);
+    CommitStep7(run);
+    return true;
+}
 
 void ClickRun(RunCommand& command) {
     try {

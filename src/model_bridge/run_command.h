@@ -16,6 +16,10 @@ struct RunCommand {
     std::function<void()> applySequence;
 };
 
+/// Probes once more, checks all input and commits it. False where there is a fault, which is then
+/// told, with its step shown.
+bool CommitFaultlessRun(RunDefinition& run);
+
 /// Checks the input, runs the stand (or applies it to its sequence, while the button says "Apply")
 /// and copies the whole table to the clipboard. A fault of the input is told and its step shown; a
 /// run-time error ends the command.

@@ -1,6 +1,7 @@
 // What each event of each form does: the one place to look up what a click or a key sets off.
 #pragma once
 
+#include "batch/batch.h"
 #include "charts/custom_chart.h"
 #include "charts/graph_builder.h"
 #include "forms/at_first_use.h"
@@ -12,7 +13,7 @@
 
 namespace arbolith {
 
-/// Wires every event of the main form.
+/// Wires every event of the main form but for its batch view.
 void WireMainForm(RunDefinition& run, RunCommand& command, AtFirstUse<Definitions>& definitions,
                   Resize& resize);
 
@@ -22,6 +23,9 @@ struct OutputTargets {
     AtFirstUse<CustomChart>& customChart;
     AtFirstUse<Definitions>& definitions;
 };
+
+/// Wires every event of the batch view, and of the ways to it.
+void WireBatch(Batch& batch);
 
 /// Wires every event of the Output window.
 void WireOutput(Output& output, const OutputTargets& targets, Resize& resize);

@@ -5,7 +5,6 @@
 #include "run_definition/reset.h"
 #include "run_definition/step_engine.h"
 #include "shell/events.h"
-#include "shell/program_end.h"
 
 #include <vector>
 
@@ -261,13 +260,12 @@ void WireHelp(MainForm& form, AtFirstUse<Definitions>& definitions) {
     };
 }
 
-// The file commands, the batch view, its way back and the documents: their work isn't in the
+// The file commands, the way back from the batch view and the documents: their work isn't in the
 // program yet.
 void DisableWhatIsToCome(MainForm& form) {
     for (Control* control : std::initializer_list<Control*>{
-             &form.New_Mnu, &form.Open_Mnu, &form.Save_Mnu, &form.SaveAs_Mnu,
-             &form.AppendToBatch_Mnu, &form.Batch_Mnu, &form.Single_Mnu, &form.Help,
-             &form.NSpruceHelp, &form.Help4a})
+             &form.New_Mnu, &form.Open_Mnu, &form.Save_Mnu, &form.SaveAs_Mnu, &form.Single_Mnu,
+             &form.Help, &form.NSpruceHelp, &form.Help4a})
         control->SetEnabled(false);
 }
 
@@ -287,7 +285,6 @@ void WireMainForm(RunDefinition& run, RunCommand& command, AtFirstUse<Definition
     WireCommands(run, command);
     WireHelp(run.form, definitions);
     run.form.onResize = [&run, &resize] { resize.ResizeForm(run.form); };
-    run.form.onClose = [&run] { CloseMainForm(run); };
     DisableWhatIsToCome(run.form);
 }
 

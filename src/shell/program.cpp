@@ -25,10 +25,12 @@ Program::Program(Application& application)
       run_(application),
       batch_(run_),
       results_(run_, resize_),
-      runCommand_{run_, [this]() -> YieldTable& { return results_.output.Get(); }, [] {}} {
+      runCommand_{run_, [this]() -> YieldTable& { return results_.output.Get(); },
+                  [this] { ApplySequence(batch_); }} {
     run_.probeTreatments = [this] { TreatmentProbe(run_); };
     run_.onReset = [this] { ForgetBatch(batch_); };
     WireMainForm(run_, runCommand_, results_.definitions, resize_);
+    WireBatch(batch_);
 }
 
 void Program::Start() {

@@ -4,20 +4,27 @@ namespace arbolith {
 
 namespace {
 
-bool OffersToSaveRun(const RunDefinition& run) {
+// What there is to save, as the question names it; null for nothing. A sequence in the step form
+// counts as part of its batch.
+const char* WhatToSave(const Batch& batch) {
+    const auto& run = batch.run;
     const auto& form = run.form;
-    return !form.Batch.Visible() && form.Run.Caption() == "Run" && form.Run.Enabled() &&
-           run.InputChanged;
+    if (!form.Batch.Visible() && form.Run.Caption() == "Run")
+        return form.Run.Enabled() && run.InputChanged ? "run" : nullptr;
+    return batch.panel.StartBtn_Bat.Enabled() && batch.BatchDirty ? "batch sequence" : nullptr;
 }
 
 }  // namespace
 
-void CloseMainForm(RunDefinition& run) {
-    auto& application = run.application;
-    if (OffersToSaveRun(run) &&
-        application.ShowBox("Do you wish to save changes to this run before exit?", "",
-                            BoxIcon::kNone, BoxButtons::kYesNo))
-        run.form.SaveAs_Mnu.Raise(run.form.SaveAs_Mnu.onClick);
+void CloseMainForm(Batch& batch) {
+    auto& application = batch.run.application;
+    const char* what = WhatToSave(batch);
+    if (what != nullptr && application.ShowBox(std::string("Do you wish to save changes to this ") +
+                                                   what + " before exit?",
+                                               "", BoxIcon::kNone, BoxButtons::kYesNo)) {
+        const auto& saveAs = batch.run.form.SaveAs_Mnu;
+        saveAs.Raise(saveAs.onClick);
+    }
     application.End();
 }
 

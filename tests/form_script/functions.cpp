@@ -1,4 +1,5 @@
 // The pure functions that scripts can ask for.
+#include "batch/batch.h"
 #include "charts/graph_titles.h"
 #include "form_script/variables.h"
 #include "platform/numbers.h"
@@ -20,7 +21,7 @@ double NumberIn(const std::string& argument) {
 }  // namespace
 
 FunctionTable MakeFunctions(Program& program) {
-    const RunDefinition& run = program.Run();
+    RunDefinition& run = program.Run();
     FunctionTable table;
     table["Val"] = {1, [](const Arguments& arguments) { return Val(arguments[0]); }};
     table["DefaultText"] = {
@@ -32,6 +33,12 @@ FunctionTable MakeFunctions(Program& program) {
                                                            ToInt16(NumberIn(arguments[1])),
                                                            run.form.choose_Metric.Value());
                                 }};
+    table["IsUsableFileName"] = {
+        1, [](const Arguments& arguments) { return IsUsableFileName(arguments[0]); }};
+    table["HasDrivePrefix"] = {
+        1, [](const Arguments& arguments) { return HasDrivePrefix(arguments[0]); }};
+    table["DescribeSequence"] = {
+        1, [&run](const Arguments& arguments) { return DescribeSequence(run, arguments[0]); }};
     table["GetAxisTitle"] = {1, [&run](const Arguments& arguments) {
                                  return GetAxisTitle(ToInt16(NumberIn(arguments[0])), run.globals);
                              }};

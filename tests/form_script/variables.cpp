@@ -73,6 +73,22 @@ void AddRun(VariableTable& table, const RunDefinition& run) {
     add("TreatmentKeysOpen", &RunDefinition::TreatmentKeysOpen);
 }
 
+// Entry i of one of the batch's texts.
+Variable Entry(Batch& batch, SequenceTexts Batch::*texts) {
+    return {1, [&batch, texts](const std::vector<int>& at) {
+                return Value(EntryAt(batch.*texts, at[0]));
+            }};
+}
+
+void AddBatch(VariableTable& table, Batch& batch) {
+    table.emplace("BatchDirty", Field(batch, &Batch::BatchDirty));
+    table.emplace("BatchPath", Field(batch, &Batch::BatchPath));
+    table.emplace("BatchSavePath", Field(batch, &Batch::BatchSavePath));
+    table.emplace("SeqLines", Entry(batch, &Batch::SeqLines));
+    table.emplace("SeqPlots", Entry(batch, &Batch::SeqPlots));
+    table.emplace("SeqWoods", Entry(batch, &Batch::SeqWoods));
+}
+
 // A window comes into being at its first use only.
 template <class Window>
 const Window& Created(const AtFirstUse<Window>& window, const std::string& name) {
@@ -132,6 +148,7 @@ VariableTable MakeVariables(Program& program) {
     VariableTable table;
     AddRecord(table, program.Run().record);
     AddRun(table, program.Run());
+    AddBatch(table, program.GetBatch());
     AddResults(table, program.Results());
     return table;
 }
