@@ -84,8 +84,8 @@ public:
     bool Showing() const;
     /// Whether a person can act on it: showing, and enabled with every frame around it.
     bool Usable() const;
-    /// Whether its kind takes the keyboard focus.
-    bool TakesFocus() const;
+    /// Whether it takes the keyboard focus.
+    virtual bool TakesFocus() const;
     bool HasFocus() const;
 
     Handler onClick;

@@ -36,7 +36,7 @@ public:
         bool wraps = false;
         bool bold = false;
         int points = 0;         ///< Font size, 0 for the desktop's own.
-        bool link = false;      ///< Underlined, with a hand over it.
+        bool link = false;      ///< Underlined, with a hand over it; keys reach it and follow it.
         bool bordered = false;  ///< Looks like something to press.
         /// The heading of a list with these columns: runs of blanks lead from one to the next.
         TextColumns columns = {};
@@ -46,6 +46,7 @@ public:
     Label(Control& parent, std::string name, std::string caption, Place place, Look look);
 
     const Look& GetLook() const { return look_; }
+    bool TakesFocus() const override { return look_.link; }
 
 private:
     Look look_;

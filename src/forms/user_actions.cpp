@@ -40,6 +40,23 @@ void KeyDown(Control& control, Key key) {
     if (number != 0 && control.onKeyDown) control.onKeyDown(number);
 }
 
+// Whether a key acts on a control of this kind as a click does. The only labels with the focus are
+// links.
+bool Activates(Key key, ControlKind kind) {
+    switch (kind) {
+        case ControlKind::kButton:
+        case ControlKind::kLabel:
+            if (key.name == Key::kEnter) return true;
+            break;
+        case ControlKind::kOption:
+        case ControlKind::kCheckBox:
+            break;
+        default:
+            return false;
+    }
+    return CharacterOf(key) == ' ';
+}
+
 // The menus above an entry, outermost first.
 std::vector<MenuItem*> MenusAbove(const Control& item) {
     std::vector<MenuItem*> menus;
@@ -89,13 +106,18 @@ void UserActions::ComeBack(Form& form) {
 }
 
 // Activates the form and moves the focus, as every action on a control does first.
-void UserActions::Approach(Control& control) {
+void UserActions::Approach(Control& control, bool takesFocus) {
     RequireUsable(control);
     application_.Enter([&] {
         application_.Activate(control.Owner());
-        application_.SetFocus(control);
+        if (takesFocus) application_.SetFocus(control);
     });
     RequireUsable(control);
+}
+
+// Keys can walk to a link; a click follows it and leaves the focus where it is.
+void UserActions::ApproachByMouse(Control& control) {
+    Approach(control, control.Kind() != ControlKind::kLabel);
 }
 
 void UserActions::Focus(Control& control) {
@@ -128,12 +150,12 @@ void UserActions::Click(Control& control) {
             });
         }
     }
-    Approach(control);
+    ApproachByMouse(control);
     application_.Enter([&] { Act(control); });
 }
 
 void UserActions::DoubleClick(Control& control) {
-    Approach(control);
+    ApproachByMouse(control);
     const auto* list = dynamic_cast<const ListBox*>(&control);
     if (list != nullptr && list->ListIndex() == -1)
         throw ActionRefused(control.Name() + " has no selected row");
@@ -175,11 +197,7 @@ void UserActions::Press(Control& control, Key key) {
         return;
     }
     const auto kind = control.Kind();
-    const bool activates = key.name == Key::kSpace ||
-                           (key.name == Key::kEnter && kind == ControlKind::kButton) ||
-                           (key.name == Key::kCharacter && key.character == ' ');
-    if (activates && (kind == ControlKind::kButton || kind == ControlKind::kOption ||
-                      kind == ControlKind::kCheckBox)) {
+    if (Activates(key, kind)) {
         Click(control);
         return;
     }

@@ -82,7 +82,8 @@ public:
 
 private:
     void RequireUsable(const Control& control) const;
-    void Approach(Control& control);
+    void Approach(Control& control, bool takesFocus = true);
+    void ApproachByMouse(Control& control);
     void PressInTextBox(TextBox& box, Key key);
     void PressInList(ListBox& list, Key key);
     void PressInGrid(Grid& grid, Key key);

@@ -143,6 +143,7 @@ bool AllowsSecondTreatment(const RunDefinition& run, const TreatmentTimes& times
 
 // Runs the model and reads its rows until the answer stands.
 Possible AskModel(RunDefinition& run, const TreatmentTimes& times) {
+    if (run.ModelHeldBack) throw RuntimeError(ErrorNumber::kFileAlreadyOpen);
     ExchangeWithModel(run, StartMode::kHidden);
     auto& files = run.application.Files();
     files.OpenForInput(kExchangeFile, run.application.PathOf(kOutputFileName));

@@ -11,4 +11,17 @@ namespace arbolith {
 /// an error, ends it with the fields as they are.
 void TreatmentProbe(RunDefinition& run);
 
+/// While one of these lives a probe that needs the model ends as if its file number were in use:
+/// numbers 1 and 2 are closed, the fields stay as they are.
+class HeldBackModel {
+public:
+    explicit HeldBackModel(RunDefinition& run) : run_(run) { run_.ModelHeldBack = true; }
+    ~HeldBackModel() { run_.ModelHeldBack = false; }
+    HeldBackModel(const HeldBackModel&) = delete;
+    HeldBackModel& operator=(const HeldBackModel&) = delete;
+
+private:
+    RunDefinition& run_;
+};
+
 }  // namespace arbolith

@@ -9,6 +9,9 @@
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionFocusRect>
+
+#include <algorithm>
 
 namespace arbolith {
 
@@ -38,8 +41,10 @@ public:
         setAlignment(AlignmentOf(label.GetLook()));
         setWordWrap(label.GetLook().wraps);
         if (label.GetLook().bordered) setFrameStyle(QFrame::Panel | QFrame::Raised);
-        if (label.GetLook().link) setCursor(Qt::PointingHandCursor);
         for (auto& column : columns_) column.behindTab = false;
+        if (!label.GetLook().link) return;
+        setCursor(Qt::PointingHandCursor);
+        setFocusPolicy(Qt::TabFocus);
     }
 
     void Refresh() override {
@@ -55,7 +60,23 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override {
-        if (columns_.empty()) return QLabel::paintEvent(event);
+        if (columns_.empty()) {
+            QLabel::paintEvent(event);
+        } else {
+            PaintColumns();
+        }
+        if (hasFocus()) PaintFocus();
+    }
+
+    void mousePressEvent(QMouseEvent* event) override { PassMouse(*event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { PassMouse(*event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { PassMouse(*event); }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!PassKey(*event)) QLabel::keyPressEvent(event);
+    }
+
+private:
+    void PaintColumns() {
         QPainter painter(this);
         painter.setPen(palette().color(foregroundRole()));
         // The rows below stand within the edge of their list.
@@ -64,11 +85,14 @@ protected:
                       Window().GetScale());
     }
 
-    void mousePressEvent(QMouseEvent* event) override { PassMouse(*event); }
-    void mouseReleaseEvent(QMouseEvent* event) override { PassMouse(*event); }
-    void mouseDoubleClickEvent(QMouseEvent* event) override { PassMouse(*event); }
+    void PaintFocus() {
+        QStyleOptionFocusRect frame;
+        frame.initFrom(this);
+        frame.rect.setWidth(std::min(width(), sizeHint().width()));
+        QPainter painter(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
+    }
 
-private:
     void RefreshFont() {
         const Label::Look& look = label_.GetLook();
         if (!look.bold && look.points == 0 && !look.link) return;

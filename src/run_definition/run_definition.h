@@ -31,6 +31,7 @@ struct RunDefinition {
     bool SoftwoodT2Allowed = true;   ///< Gives softwood runs a second treatment.
     bool ShortHardwoodList = false;  ///< Offers the six hardwoods that are no aspen and no ash.
     bool TreatmentKeysOpen = true;   ///< False while the treatment probe runs.
+    bool ModelHeldBack = false;      ///< A probe that needs the model fails (HeldBackModel).
 
     Colour FocusColour = 0;  ///< Behind the labels of the field that has the focus.
     Colour RestColour = 0;   ///< Behind them when the focus leaves.

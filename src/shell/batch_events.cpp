@@ -2,7 +2,6 @@
 #include "batch/pickers.h"
 #include "batch/sequence_commands.h"
 #include "shell/events.h"
-#include "shell/program_end.h"
 
 namespace arbolith {
 
@@ -54,7 +53,6 @@ void WireRunAndModes(Batch& batch) {
     batch.panel.Cancel_Btn_Bat.onClick = [&form] { ShowSingleRunView(form); };
     form.Append_Btn.onClick = [&batch] { AppendMadeSequence(batch); };
     form.CancelAppend.onClick = [&batch] { CancelMaking(batch); };
-    form.onClose = [&batch] { CloseMainForm(batch); };
     form.AppendToBatch_Mnu.onClick = [&batch] { AppendToPickedBatch(batch); };
 }
 

@@ -10,10 +10,11 @@
 #include "results/definitions.h"
 #include "results/output.h"
 #include "run_definition/run_definition.h"
+#include "saved_runs/saved_runs.h"
 
 namespace arbolith {
 
-/// Wires every event of the main form but for its batch view.
+/// Wires the events of the main form's steps and of its commands on a run.
 void WireMainForm(RunDefinition& run, RunCommand& command, AtFirstUse<Definitions>& definitions,
                   Resize& resize);
 
@@ -26,6 +27,9 @@ struct OutputTargets {
 
 /// Wires every event of the batch view, and of the ways to it.
 void WireBatch(Batch& batch);
+
+/// Wires the File menu, the way back to the single run, and the close box.
+void WireFileMenu(SavedRuns& saved);
 
 /// Wires every event of the Output window.
 void WireOutput(Output& output, const OutputTargets& targets, Resize& resize);

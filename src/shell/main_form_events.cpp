@@ -5,6 +5,7 @@
 #include "run_definition/reset.h"
 #include "run_definition/step_engine.h"
 #include "shell/events.h"
+#include "shell/webpage.h"
 
 #include <vector>
 
@@ -250,7 +251,14 @@ void WireCommands(RunDefinition& run, RunCommand& command) {
     form.Run.onClick = [&command] { ClickRun(command); };
     form.Clear.onClick = [&run] { ResetInput(run); };
     form.Adv_Mode.onClick = [&run] { ToggleAdvancedMode(run); };
-    form.Close_Mnu.onClick = form.Exit_Program.onClick = [&run] { run.application.End(); };
+    form.NSpruceHelp.onClick = [&run] {
+        Launch_Webpage(run.application, AddressOf(run.application, kNorwaySpruceReport));
+    };
+    form.Help4a.onClick = [&run, &form] {
+        const bool hardwood = form.Step1_Type.Caption() == "Hardwood";
+        Launch_Webpage(run.application,
+                       AddressOf(run.application, hardwood ? kHardwoodManual : kSoftwoodManual));
+    };
 }
 
 void WireHelp(MainForm& form, AtFirstUse<Definitions>& definitions) {
@@ -260,13 +268,9 @@ void WireHelp(MainForm& form, AtFirstUse<Definitions>& definitions) {
     };
 }
 
-// The file commands, the way back from the batch view and the documents: their work isn't in the
-// program yet.
+// The help: its work isn't in the program yet.
 void DisableWhatIsToCome(MainForm& form) {
-    for (Control* control : std::initializer_list<Control*>{
-             &form.New_Mnu, &form.Open_Mnu, &form.Save_Mnu, &form.SaveAs_Mnu, &form.Single_Mnu,
-             &form.Help, &form.NSpruceHelp, &form.Help4a})
-        control->SetEnabled(false);
+    for (Control* control : std::initializer_list<Control*>{&form.Help}) control->SetEnabled(false);
 }
 
 }  // namespace

@@ -24,13 +24,18 @@ Program::Program(Application& application)
       splash_(application),
       run_(application),
       batch_(run_),
+      saved_{run_, batch_, ""},
       results_(run_, resize_),
       runCommand_{run_, [this]() -> YieldTable& { return results_.output.Get(); },
                   [this] { ApplySequence(batch_); }} {
     run_.probeTreatments = [this] { TreatmentProbe(run_); };
-    run_.onReset = [this] { ForgetBatch(batch_); };
+    run_.onReset = [this] {
+        ForgetBatch(batch_);
+        saved_.RunFilePath.clear();
+    };
     WireMainForm(run_, runCommand_, results_.definitions, resize_);
     WireBatch(batch_);
+    WireFileMenu(saved_);
 }
 
 void Program::Start() {
@@ -63,9 +68,20 @@ void Program::LoadMainForm() {
     form.Adv_Mode.SetChecked(false);
     Centre(form);
     form.SetCaption(std::string("Arbolith ") + kVersion);
+    ReadCommandLine();
     run_.FocusColour = kFormColours[1];
     run_.RestColour = kFormColours[3];
     ResetInput(run_);
+}
+
+// A run is read, with its messages, and is gone again with the reset behind it; a batch stays.
+void Program::ReadCommandLine() {
+    const auto& commandLine = application_.CommandLine();
+    if (commandLine.size() < 2) return;
+    // What stands around the path is taken for quotes.
+    const auto path = commandLine.substr(1, commandLine.size() - 2);
+    if (path.ends_with("qvn")) ReadRunFile(saved_, path);
+    if (path.ends_with("qvb")) ReadBatch(batch_, path);
 }
 
 void Program::Centre(Form& form) {

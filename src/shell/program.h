@@ -5,6 +5,7 @@
 #include "forms/resize.h"
 #include "model_bridge/run_command.h"
 #include "run_definition/run_definition.h"
+#include "saved_runs/saved_runs.h"
 #include "shell/result_windows.h"
 #include "shell/splash.h"
 
@@ -21,11 +22,13 @@ public:
     Splash& GetSplash() { return splash_; }
     RunDefinition& Run() { return run_; }
     Batch& GetBatch() { return batch_; }
+    SavedRuns& Saved() { return saved_; }
     ResultWindows& Results() { return results_; }
 
 private:
     void LoadSplash();
     void LoadMainForm();
+    void ReadCommandLine();
     void EndSplash();
     void Centre(Form& form);
 
@@ -34,6 +37,7 @@ private:
     Splash splash_;
     RunDefinition run_;
     Batch batch_;
+    SavedRuns saved_;
     ResultWindows results_;
     RunCommand runCommand_;
 };

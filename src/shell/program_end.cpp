@@ -1,30 +1,30 @@
 #include "shell/program_end.h"
 
+#include "saved_runs/file_menu.h"
+
 namespace arbolith {
 
 namespace {
 
-// What there is to save, as the question names it; null for nothing. A sequence in the step form
-// counts as part of its batch.
-const char* WhatToSave(const Batch& batch) {
-    const auto& run = batch.run;
-    const auto& form = run.form;
+// What would be lost, as the question names it; empty for nothing.
+std::string LossAtEnd(const SavedRuns& saved) {
+    const auto& form = saved.run.form;
     if (!form.Batch.Visible() && form.Run.Caption() == "Run")
-        return form.Run.Enabled() && run.InputChanged ? "run" : nullptr;
-    return batch.panel.StartBtn_Bat.Enabled() && batch.BatchDirty ? "batch sequence" : nullptr;
+        return form.Run.Enabled() && saved.run.InputChanged ? "run" : "";
+    const auto& batch = saved.batch;
+    return batch.panel.StartBtn_Bat.Enabled() && batch.BatchDirty ? "batch sequence" : "";
 }
 
 }  // namespace
 
-void CloseMainForm(Batch& batch) {
-    auto& application = batch.run.application;
-    const char* what = WhatToSave(batch);
-    if (what != nullptr && application.ShowBox(std::string("Do you wish to save changes to this ") +
-                                                   what + " before exit?",
-                                               "", BoxIcon::kNone, BoxButtons::kYesNo)) {
-        const auto& saveAs = batch.run.form.SaveAs_Mnu;
-        saveAs.Raise(saveAs.onClick);
-    }
+void CloseMainForm(SavedRuns& saved) {
+    auto& application = saved.run.application;
+    const auto loss = LossAtEnd(saved);
+    if (!loss.empty() &&
+        application.ShowBox("Do you wish to save changes to this " + loss + " before exit?", "",
+                            BoxIcon::kNone, BoxButtons::kYesNo))
+        // A failure is told as that of any event, and then the program ends all the same.
+        application.Enter([&saved] { SaveFileAs(saved); });
     application.End();
 }
 

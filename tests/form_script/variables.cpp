@@ -89,6 +89,10 @@ void AddBatch(VariableTable& table, Batch& batch) {
     table.emplace("SeqWoods", Entry(batch, &Batch::SeqWoods));
 }
 
+void AddSavedRuns(VariableTable& table, const SavedRuns& saved) {
+    table.emplace("RunFilePath", Field(saved, &SavedRuns::RunFilePath));
+}
+
 // A window comes into being at its first use only.
 template <class Window>
 const Window& Created(const AtFirstUse<Window>& window, const std::string& name) {
@@ -149,6 +153,7 @@ VariableTable MakeVariables(Program& program) {
     AddRecord(table, program.Run().record);
     AddRun(table, program.Run());
     AddBatch(table, program.GetBatch());
+    AddSavedRuns(table, program.Saved());
     AddResults(table, program.Results());
     return table;
 }
