@@ -410,4 +410,19 @@ TEST_F(KeysTest, TakesAViewsOwnEditAsAPersonsAction) {
     EXPECT_EQ(host.boxes.size(), 1U);
 }
 
+TEST_F(KeysTest, ReachesALinkByTabAndFollowsItByEnterOrSpace) {
+    Label plain{form, "plain", "text"};
+    Label link{form, "link", "document", {}, {.link = true}};
+    plain.onClick = link.onClick = [this] { log.emplace_back("followed"); };
+    actions.Focus(next);
+    actions.Press(next, {Key::kTab, 0});
+    EXPECT_TRUE(link.HasFocus());
+    actions.Press(link, {Key::kEnter, 0});
+    actions.Press(link, {Key::kSpace, 0});
+    actions.Press(link, Character(' '));
+    actions.Press(link, Character('x'));
+    EXPECT_EQ(log, (Log{"followed", "followed", "followed"}));
+    EXPECT_THROW(actions.Focus(plain), ActionRefused);
+}
+
 }  // namespace arbolith

@@ -126,6 +126,15 @@ TEST_F(UserActionsTest, ClickLabelsWithoutMovingTheFocus) {
     EXPECT_EQ(log, (Log{"box got", "click"}));
 }
 
+TEST_F(UserActionsTest, FollowALinkWithoutMovingTheFocus) {
+    Label link{form, "link", "document", {}, {.link = true}};
+    actions.Focus(box);
+    link.onClick = [this] { log.emplace_back("followed"); };
+    actions.Click(link);
+    EXPECT_EQ(log, Log{"followed"});
+    EXPECT_TRUE(box.HasFocus());
+}
+
 TEST_F(UserActionsTest, CountADoubleClickOnAnOptionThatIsOn) {
     Option option(form, "option");
     actions.Click(option);

@@ -3,9 +3,12 @@
 #pragma once
 
 #include "platform/headless_host.h"
+#include "platform/runtime_error.h"
 
+#include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,6 +29,19 @@ public:
     void Beep() override { ++beeps; }
     void SetClipboardText(const std::string& text) override { clipboard = text; }
     std::string ClipboardText() override { return clipboard; }
+    /// Chooses what is queued; where nothing is, the dialog is cancelled.
+    std::optional<FileChoice> ChooseFile(const FileQuestion& question) override {
+        questions.push_back(question);
+        if (files.empty()) return std::nullopt;
+        FileChoice choice{files.front(), question.filterIndex};
+        files.pop_front();
+        return choice;
+    }
+    OpenResult Open(const std::string& address) override {
+        opened.push_back(address);
+        if (openError) throw RuntimeError(*openError);
+        return openResult;
+    }
     std::unique_ptr<Process> Start(const ProgramStart& start) override {
         starts.push_back(start);
         if (!canStart) return nullptr;
@@ -46,10 +62,15 @@ public:
     /// What a person does while a program runs.
     std::function<void()> whileWaiting;
     bool canStart = true;
+    std::deque<std::string> files;
+    OpenResult openResult = OpenResult::kOpened;
+    std::optional<ErrorNumber> openError;
     bool answer = true;
     Size screen{12000, 9000};
 
     std::vector<Box> boxes;
+    std::vector<FileQuestion> questions;
+    std::vector<std::string> opened;
     std::vector<ProgramStart> starts;
     std::string clipboard = "as before";
     int beeps = 0;

@@ -346,5 +346,32 @@ TEST_F(ProbeFailure, OfAnAgeThatFitsNoSixteenBitsIsSilent) {
     EXPECT_EQ(host.starts.size(), 1u);
 }
 
+TEST_F(ProbeTest, FailsSilentlyWhileTheModelIsHeldBack) {
+    TreatAtAge("30");
+    ModelGrows({{.sage = 30, .mdbh = 20}});
+    application.Files().OpenForOutput(1, folder.PathOf("open.txt"));
+    run.TreatmentKeysOpen = false;
+    {
+        const HeldBackModel held(run);
+        Probe();
+    }
+    EXPECT_TRUE(host.starts.empty());
+    EXPECT_TRUE(host.boxes.empty());
+    EXPECT_FALSE(run.form.BA1.Enabled());
+    EXPECT_TRUE(run.form.BA1.Visible());
+    EXPECT_FALSE(run.TreatmentKeysOpen);
+    Probe();
+    EXPECT_EQ(host.starts.size(), 1u);
+    EXPECT_TRUE(run.form.BA1.Enabled());
+}
+
+TEST_F(ProbeTest, NeedsNoModelToFindThatNothingIsPossible) {
+    TreatAtAge("0");
+    const HeldBackModel held(run);
+    Probe();
+    EXPECT_FALSE(run.form.BA1.Visible());
+    EXPECT_TRUE(run.TreatmentKeysOpen);
+}
+
 }  // namespace
 }  // namespace arbolith

@@ -123,16 +123,49 @@ TEST_F(ProgramTest, AsksBeforeARunThatChangedIsLost) {
     EXPECT_TRUE(host.ended);
 }
 
-TEST_F(ProgramTest, SavesTheRunOnYesAndEndsAllTheSame) {
+TEST_F(ProgramTest, SavesTheRunOnYesAndEnds) {
     StartAndPassTheSplash();
     EnterStand();
-    int saves = 0;
-    form.SaveAs_Mnu.onClick = [&] {
-        ++saves;
-        EXPECT_FALSE(host.ended);
-    };
+    host.files = {folder.PathOf("stand.qvn")};
     person.Close(form);
-    EXPECT_EQ(saves, 1);
+    EXPECT_NE(folder.Read("stand.qvn").find("White Pine"), std::string::npos);
+    EXPECT_TRUE(host.ended);
+}
+
+TEST_F(ProgramTest, EndsAlsoWhenTheSaveIsCancelled) {
+    StartAndPassTheSplash();
+    EnterStand();
+    person.Close(form);
+    EXPECT_EQ(host.questions.size(), 1u);
+    EXPECT_EQ(host.boxes.size(), 1u);
+    EXPECT_TRUE(host.ended);
+}
+
+TEST_F(ProgramTest, EndsAlsoWhenTheSaveFailsInAnUntoldWay) {
+    StartAndPassTheSplash();
+    EnterStand();
+    {
+        const HeldBackEvents quiet(application);
+        form.txtRotAge.SetText("40000");
+    }
+    person.Close(form);
+    ASSERT_EQ(host.boxes.size(), 2u);
+    EXPECT_EQ(host.boxes[1].text, "Run-time error '6':\nOverflow");
+    EXPECT_TRUE(host.ended);
+}
+
+TEST_F(ProgramTest, OffersToSaveABatchThatChanged) {
+    StartAndPassTheSplash();
+    form.Qvly.SetVisible(false);
+    form.Batch.SetVisible(true);
+    program.GetBatch().BatchDirty = true;
+    program.GetBatch().panel.StartBtn_Bat.SetEnabled(true);
+    host.answer = false;
+    person.Close(form);
+    ASSERT_EQ(host.boxes.size(), 1u);
+    EXPECT_EQ(host.boxes[0].text,
+              "Do you wish to save changes to this batch sequence before exit?");
+    EXPECT_EQ(host.boxes[0].buttons, BoxButtons::kYesNo);
     EXPECT_TRUE(host.ended);
 }
 

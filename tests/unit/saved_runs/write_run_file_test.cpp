@@ -1,0 +1,101 @@
+// Saving: what happens to the file, the run's flags and the person when a file can or can't be
+// written.
+#include "unit/saved_runs/saved_testing.h"
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace arbolith {
+namespace {
+
+class WriteRunFileTest : public SavedRunsTest {
+protected:
+    WriteRunFileTest() { Read(PineFile()); }
+
+    // Saves a changed run and tells the boxes that it took.
+    void Write(const std::string& path) {
+        run.InputChanged = true;
+        host.boxes.clear();
+        WriteRunFile(saved, path);
+    }
+    void ExpectNotSaved() const {
+        EXPECT_TRUE(run.InputChanged);
+        EXPECT_EQ(saved.RunFilePath, folder.PathOf("stand.qvn"));
+    }
+};
+
+// Files can't become larger than a few bytes while one of these lives.
+class FullDisk {
+public:
+    FullDisk() : before_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &limit_);
+        rlimit small = limit_;
+        small.rlim_cur = 50;
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &limit_);
+        std::signal(SIGXFSZ, before_);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    void (*before_)(int);
+    rlimit limit_{};
+};
+
+TEST_F(WriteRunFileTest, WritesTheLinesAndBindsTheRun) {
+    Write(folder.PathOf("other.qvn"));
+    const auto text = folder.Read("other.qvn");
+    EXPECT_EQ(text.substr(text.find("\r\n")), Joined(PineFile()).substr(6));
+    EXPECT_FALSE(run.InputChanged);
+    EXPECT_EQ(saved.RunFilePath, folder.PathOf("other.qvn"));
+    EXPECT_TRUE(host.boxes.empty());
+}
+
+TEST_F(WriteRunFileTest, LeavesTheOldFileWhenTheDiskIsFull) {
+    {
+        const FullDisk full;
+        Write(folder.PathOf("stand.qvn"));
+    }
+    EXPECT_TRUE(host.boxes.empty());
+    EXPECT_EQ(folder.Read("stand.qvn"), Joined(PineFile()));
+    ExpectNotSaved();
+    Write(folder.PathOf("stand.qvn"));
+    EXPECT_FALSE(run.InputChanged);
+}
+
+TEST_F(WriteRunFileTest, TellsAMissingFolderAndAFolderInTheFilesPlace) {
+    folder.Block("folder.qvn");
+    for (const char* name : {"missing/stand.qvn", "folder.qvn", ""}) {
+        Write(*name == '\0' ? "" : folder.PathOf(name));
+        ASSERT_EQ(host.boxes.size(), 1u) << name;
+        EXPECT_EQ(host.boxes[0].text, kSaveFailed);
+        EXPECT_EQ(host.boxes[0].title, "");
+        EXPECT_EQ(host.boxes[0].icon, BoxIcon::kNone);
+        ExpectNotSaved();
+    }
+}
+
+TEST_F(WriteRunFileTest, FailsSilentlyWhileItsNumberIsInUseAndFreesIt) {
+    auto wrong = PineFile();
+    wrong[3] = "Blue Pine";
+    folder.Write("wrong.qvn", Joined(wrong));
+    ReadRunFile(saved, folder.PathOf("wrong.qvn"));
+    Write(folder.PathOf("other.qvn"));
+    EXPECT_TRUE(host.boxes.empty());
+    EXPECT_FALSE(folder.Holds("other.qvn"));
+    EXPECT_TRUE(run.InputChanged);
+    Write(folder.PathOf("other.qvn"));
+    EXPECT_TRUE(folder.Holds("other.qvn"));
+}
+
+TEST_F(WriteRunFileTest, FailsSilentlyForANameThatNoFileCanHave) {
+    Write(folder.PathOf("pine*.qvn"));
+    EXPECT_TRUE(host.boxes.empty());
+    ExpectNotSaved();
+}
+
+}  // namespace
+}  // namespace arbolith
