@@ -1,6 +1,8 @@
 // The 25 result variables in the fixed order in which a model writes them: their codes and units.
 #pragma once
 
+#include "run_definition/by_units.h"
+
 #include <array>
 
 namespace arbolith {
@@ -10,14 +12,8 @@ inline constexpr std::array<const char*, 25> kVariableCodes = {
     "SF",   "TH",    "MH",    "SH",    "TVOL",  "MVOL",  "SVOL", "TMAI", "MMAI",
     "SMAI", "CTVOL", "CMVOL", "CSVOL", "CTMAI", "CMMAI", "CSMAI"};
 
-/// A unit under each of the two unit systems.
-struct Unit {
-    const char* metric;
-    const char* imperial;
-};
-
 /// The units of the variables.
-inline constexpr std::array<Unit, kVariableCodes.size()> kVariableUnits = {
+inline constexpr std::array<ByUnits, kVariableCodes.size()> kVariableUnits = {
     {{"years", "years"},
      {"cm", "in"},
      {"cm", "in"},

@@ -107,6 +107,8 @@ void Drag(QWidget& widget, QPoint from, const std::function<QPoint()>& between) 
     QTest::mousePress(HandleOf(widget), Qt::LeftButton, {}, PlaceInWindow(widget, from));
     Settle();
     const QPoint to = PlaceInWindow(widget, between());
+    // What is under the pointer may have scrolled, and a move to where it is already would be none.
+    QTest::mouseMove(HandleOf(widget), to + QPoint(1, 1));
     QTest::mouseMove(HandleOf(widget), to);
     Settle();
     QTest::mouseRelease(HandleOf(widget), Qt::LeftButton, {}, to);
