@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QStyle>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -130,12 +131,22 @@ void FormWindow::RefreshForm() {
     if (windowTitle() != title) setWindowTitle(title);
     const bool busy = form_.Pointer() == MousePointer::kHourglass;
     if (busy != testAttribute(Qt::WA_SetCursor)) busy ? setCursor(Qt::WaitCursor) : unsetCursor();
+    RefreshTopmost();
     if (form_.Visible()) {
         RefreshSize();
         RefreshPosition();
         RefreshState();
     }
     if (isVisible() != form_.Visible()) setVisible(form_.Visible());
+}
+
+// The widget itself would hide when told.
+void FormWindow::RefreshTopmost() {
+    Qt::WindowFlags flags = windowFlags();
+    flags.setFlag(Qt::WindowStaysOnTopHint, form_.Topmost());
+    if (flags == windowFlags()) return;
+    overrideWindowFlags(flags);
+    if (windowHandle() != nullptr) windowHandle()->setFlags(flags);
 }
 
 void FormWindow::RefreshState() {

@@ -67,6 +67,7 @@ private:
     void Build();
     void AddView(Control& control);
     void RefreshForm();
+    void RefreshTopmost();
     void RefreshState();
     void RefreshSize();
     void RefreshPosition();
