@@ -134,9 +134,7 @@ private:
         if (!yTitle_.isEmpty()) left_ += kGap;
         left_ += Widest(vertical, numbers) + kTickRoom;
         // The last number below the plot hangs over its end by one half.
-        if (!plot_.hasBars && !horizontal_.isEmpty())
-            right_ = std::min(right_, sheet_.width() - kMargin -
-                                          numbers.horizontalAdvance(horizontal_.last()) / 2);
+        if (!plot_.hasBars) right_ -= numbers.horizontalAdvance(horizontal_.last()) / 2;
         right_ = std::max(right_, left_ + 1);
         xTitle_ = HasTitles() ? Wrapped(plot_.xTitle, axisTitle_, right_ - left_) : QStringList();
         TurnTexts();
@@ -146,8 +144,15 @@ private:
             bottom_ -= kGap / 2 + titles.height() * static_cast<double>(xTitle_.size());
         // Half of the uppermost number stands above the plot.
         if (contents_ == Contents::kNoTitles || plot_.title.isEmpty()) top_ += numbers.height() / 2;
-        layout_.plot = QRectF(left_, top_, right_ - left_, std::max(1.0, bottom_ - top_));
-        bottom_ = layout_.plot.bottom();
+        Sharpen();
+        layout_.plot = QRectF(left_, top_, right_ - left_, bottom_ - top_);
+    }
+
+    // Puts the edges of the plot into the middle of pixels, where thin lines are sharp.
+    void Sharpen() {
+        for (double* edge : {&left_, &top_, &right_, &bottom_}) *edge = std::floor(*edge) + 0.5;
+        right_ = std::max(right_, left_ + 1);
+        bottom_ = std::max(bottom_, top_ + 1);
     }
 
     // Labels of bars that don't fit side by side are turned where all of them fit so, and thinned

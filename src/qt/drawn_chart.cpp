@@ -17,8 +17,8 @@ namespace arbolith {
 
 namespace {
 
-// Over everything that the toolkit draws.
-constexpr double kMarksZ = 1000;
+// Above everything that the toolkit draws, and negative below it.
+constexpr double kTopZ = 1000;
 const QColor kAxisColour(0x40, 0x40, 0x40);
 const QColor kGridColour(0xA8, 0xA8, 0xA8);
 // A row's share that its bars take.
@@ -57,16 +57,19 @@ double Distance(const QRectF& rect, QPointF place) {
 
 }  // namespace
 
-// What is drawn here over what the toolkit draws.
-class DrawnChart::Marks : public QGraphicsItem {
+// What is drawn here, below or above all that the toolkit draws.
+class DrawnChart::Layer : public QGraphicsItem {
 public:
-    explicit Marks(DrawnChart& chart) : QGraphicsItem(&chart), chart_(chart) {
-        setZValue(kMarksZ);
+    using Paint = void (DrawnChart::*)(QPainter&) const;
+
+    Layer(DrawnChart& chart, double z, Paint paint)
+        : QGraphicsItem(&chart), chart_(chart), paint_(paint) {
+        setZValue(z);
         setAcceptedMouseButtons(Qt::NoButton);
     }
     QRectF boundingRect() const override { return chart_.rect(); }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
-        chart_.PaintMarks(*painter);
+        (chart_.*paint_)(*painter);
     }
     void Changed() {
         prepareGeometryChange();
@@ -75,15 +78,17 @@ public:
 
 private:
     DrawnChart& chart_;
+    Paint paint_;
 };
 
 DrawnChart::DrawnChart(double textFactor)
     : textFactor_(textFactor),
       xAxis_(new QValueAxis(this)),
       yAxis_(new QValueAxis(this)),
-      marks_(new Marks(*this)) {
-    setBackgroundRoundness(0);
-    setBackgroundPen(Qt::NoPen);
+      ground_(new Layer(*this, -kTopZ, &DrawnChart::PaintGround)),
+      marks_(new Layer(*this, kTopZ, &DrawnChart::PaintMarks)) {
+    // The toolkit's own ground doesn't follow the sheet while the plot has its place from here.
+    setBackgroundVisible(false);
     layout()->setContentsMargins(0, 0, 0, 0);
     setMargins({});
     legend()->hide();
@@ -96,10 +101,6 @@ DrawnChart::DrawnChart(double textFactor)
 
 void DrawnChart::Draw(Plot plot) {
     plot_ = std::move(plot);
-    setBackgroundBrush(plot_.backdrop.isValid() ? QBrush(plot_.backdrop) : QBrush(Qt::NoBrush));
-    setPlotAreaBackgroundVisible(plot_.hasWall);
-    setPlotAreaBackgroundBrush(Qt::NoBrush);
-    setPlotAreaBackgroundPen(QPen(kAxisColour, 1));
     LayOutAnew();
     DrawData();
 }
@@ -122,6 +123,7 @@ void DrawnChart::LayOutAnew() {
     DrawAxis(*yAxis_, plot_.y, plot_.yLines, layout_.plot.height());
     layout()->activate();
     PutTexts();
+    ground_->Changed();
     marks_->Changed();
 }
 
@@ -218,6 +220,13 @@ QRectF DrawnChart::BarOf(std::size_t series, int row) const {
     const QRectF upright = bar.normalized();
     return {QPointF(upright.left(), inside(upright.top())),
             QPointF(upright.right(), inside(upright.bottom()))};
+}
+
+void DrawnChart::PaintGround(QPainter& painter) const {
+    if (plot_.backdrop.isValid()) painter.fillRect(rect(), plot_.backdrop);
+    if (!plot_.hasWall) return;
+    painter.setPen(QPen(kAxisColour, 1));
+    painter.drawRect(layout_.plot);
 }
 
 void DrawnChart::PaintMarks(QPainter& painter) const {

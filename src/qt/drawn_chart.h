@@ -37,7 +37,7 @@ protected:
     void resizeEvent(QGraphicsSceneResizeEvent* event) override;
 
 private:
-    class Marks;
+    class Layer;
 
     void LayOutAnew();
     void PutTexts();
@@ -45,6 +45,7 @@ private:
     void DrawLines();
     void DrawBars();
     void DrawAxis(QValueAxis& axis, const AxisScale& scale, const ChartAxis& lines, double length);
+    void PaintGround(QPainter& painter) const;
     void PaintMarks(QPainter& painter) const;
     void PaintPoints(QPainter& painter) const;
     void PaintLegend(QPainter& painter) const;
@@ -60,7 +61,8 @@ private:
     QValueAxis* yAxis_;
     std::vector<QLineSeries*> lines_;
     QBarSeries* bars_ = nullptr;
-    Marks* marks_;
+    Layer* ground_;
+    Layer* marks_;
     std::vector<std::unique_ptr<QGraphicsSimpleTextItem>> texts_;
 };
 

@@ -5,9 +5,19 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 namespace arbolith {
 
 namespace {
+
+// The place of the filter that is told as it was given, or by its description alone; -1 for none.
+qsizetype PlaceOf(const QString& selected, const QStringList& filters) {
+    const auto found = std::find_if(filters.begin(), filters.end(), [&](const QString& filter) {
+        return filter == selected || filter.startsWith(selected + QStringLiteral(" ("));
+    });
+    return found == filters.end() ? -1 : found - filters.begin();
+}
 
 QString PathOf(const std::string& bytes) {
     return QFile::decodeName(bytes.c_str());
@@ -44,7 +54,7 @@ FileDialog::FileDialog(QWidget* parent, const FileQuestion& question)
 
 FileChoice FileDialog::Choice() const {
     const QString path = selectedFiles().value(0);
-    const auto filter = static_cast<int>(nameFilters().indexOf(selectedNameFilter())) + 1;
+    const auto filter = static_cast<int>(PlaceOf(selectedNameFilter(), nameFilters())) + 1;
     // A proposed name that was taken keeps its bytes, also those that are no text.
     const bool isProposed = path == PathOf(question_.fileName);
     return {isProposed ? question_.fileName : QFile::encodeName(path).toStdString(),

@@ -72,6 +72,8 @@ private:
     void RefreshSize();
     void RefreshPosition();
     void FollowFont();
+    void RefreshScale();
+    void RefreshViews();
     void FollowWindowState();
     void TakeFocusFrom(QObject* watched);
     void ClientSizeChanged();
@@ -86,6 +88,7 @@ private:
     std::unordered_map<const QObject*, Control*> focusTakers_;
     Size requested_;
     Place shownPlace_;
+    bool windowLeads_ = false;
     bool gone_ = false;
 };
 

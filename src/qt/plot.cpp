@@ -19,12 +19,14 @@ bool IsWhole(double value) {
     return std::abs(value - std::round(value)) < 1e-6;
 }
 
-// As few decimals as tell the divisions exactly; where none do, two digits of a division.
+// As few decimals as tell the divisions exactly, but no more than give three digits of a division.
 int DecimalsOf(double start, double step) {
+    const int most =
+        std::clamp(static_cast<int>(std::ceil(2 - std::log10(step))), 0, kMostDecimals);
     double power = 1;
-    for (int decimals = 0; decimals <= kMostDecimals; ++decimals, power *= 10)
+    for (int decimals = 0; decimals < most; ++decimals, power *= 10)
         if (IsWhole(start * power) && IsWhole(step * power) && step * power > 0.5) return decimals;
-    return std::clamp(static_cast<int>(std::ceil(1 - std::log10(step))), 0, kMostDecimals);
+    return most;
 }
 
 QString NumberText(double value) {
