@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QStyle>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -63,6 +64,10 @@ bool FormWindow::HasManualTimers() const {
 void FormWindow::Build() {
     views_.reserve(form_.Controls().size());
     for (Control* control : form_.Controls()) AddView(*control);
+    RefreshViews();
+}
+
+void FormWindow::RefreshViews() {
     for (const auto& [control, view] : views_) view->Refresh();
 }
 
@@ -130,12 +135,33 @@ void FormWindow::RefreshForm() {
     if (windowTitle() != title) setWindowTitle(title);
     const bool busy = form_.Pointer() == MousePointer::kHourglass;
     if (busy != testAttribute(Qt::WA_SetCursor)) busy ? setCursor(Qt::WaitCursor) : unsetCursor();
+    RefreshTopmost();
     if (form_.Visible()) {
+        RefreshScale();
+        RefreshState();
         RefreshSize();
         RefreshPosition();
-        RefreshState();
     }
     if (isVisible() != form_.Visible()) setVisible(form_.Visible());
+}
+
+// The widget itself would hide when told.
+void FormWindow::RefreshTopmost() {
+    Qt::WindowFlags flags = windowFlags();
+    flags.setFlag(Qt::WindowStaysOnTopHint, form_.Topmost());
+    if (flags == windowFlags()) return;
+    overrideWindowFlags(flags);
+    if (windowHandle() != nullptr) windowHandle()->setFlags(flags);
+}
+
+// On a maximised form 15 twips are a pixel whatever the font: what is told as a share of the screen
+// is that share of it, and all else grows with the window anyway.
+void FormWindow::RefreshScale() {
+    const bool isMaximised = form_.State() == WindowState::kMaximised;
+    const Scale wanted = isMaximised ? Scale() : Scale::For(form_, font());
+    if (wanted == scale_) return;
+    scale_ = wanted;
+    RefreshViews();
 }
 
 void FormWindow::RefreshState() {
@@ -148,7 +174,7 @@ void FormWindow::RefreshState() {
 void FormWindow::RefreshSize() {
     const QSize told = scale_.Pixels(form_.ClientSize());
     const bool isNormal = StateOf(windowState()) == WindowState::kNormal;
-    if (!isNormal || inside_->size() == told) return;
+    if (!isNormal || windowLeads_ || inside_->size() == told) return;
     const QSize wanted(told.width(), told.height() + MenuHeight(told.width()));
     const QSize title(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
     resize(wanted.boundedTo(screen()->availableGeometry().size() - title));
@@ -262,9 +288,8 @@ void FormWindow::changeEvent(QEvent* event) {
 
 void FormWindow::FollowFont() {
     if (gone_) return;
-    scale_ = Scale::For(form_, font());
     manager_.WhileFlushing([this] {
-        for (const auto& [control, view] : views_) view->Refresh();
+        RefreshViews();
         RefreshForm();
     });
 }
@@ -272,7 +297,10 @@ void FormWindow::FollowFont() {
 void FormWindow::FollowWindowState() {
     const WindowState state = StateOf(windowState());
     if (gone_ || manager_.IsFlushing() || !form_.Visible() || state == form_.State()) return;
+    windowLeads_ = true;
     manager_.GetApplication().Enter([&] { form_.SetState(state); });
+    windowLeads_ = false;
+    ClientSizeChanged();
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

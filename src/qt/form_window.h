@@ -67,10 +67,13 @@ private:
     void Build();
     void AddView(Control& control);
     void RefreshForm();
+    void RefreshTopmost();
     void RefreshState();
     void RefreshSize();
     void RefreshPosition();
     void FollowFont();
+    void RefreshScale();
+    void RefreshViews();
     void FollowWindowState();
     void TakeFocusFrom(QObject* watched);
     void ClientSizeChanged();
@@ -85,6 +88,7 @@ private:
     std::unordered_map<const QObject*, Control*> focusTakers_;
     Size requested_;
     Place shownPlace_;
+    bool windowLeads_ = false;
     bool gone_ = false;
 };
 

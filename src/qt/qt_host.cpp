@@ -1,6 +1,9 @@
 #include "qt/qt_host.h"
 
-#include "platform/runtime_error.h"
+#include "qt/file_dialog.h"
+#include "qt/opener.h"
+#include "qt/printing.h"
+#include "qt/qt_drawing.h"
 #include "qt/scale.h"
 #include "qt/texts.h"
 #include "qt/wait_notice.h"
@@ -8,15 +11,12 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDesktopServices>
 #include <QEventLoop>
-#include <QFile>
-#include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QScreen>
 #include <QSocketNotifier>
-#include <QUrl>
 
 #include <utility>
 
@@ -51,10 +51,24 @@ QMessageBox::Icon IconOf(BoxIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+// What goes onto the clipboard: a text and a picture for other programs, and the drawing itself for
+// this one, as long as it is there.
+class TextAndPicture : public QMimeData {
+public:
+    TextAndPicture(const std::string& text, std::shared_ptr<const Drawing> picture)
+        : picture_(std::move(picture)) {
+        setText(ToQString(text));
+        if (picture_ != nullptr) setImageData(ImageOf(*picture_));
+    }
+    const std::shared_ptr<const Drawing>& Picture() const { return picture_; }
+
+private:
+    std::shared_ptr<const Drawing> picture_;
+};
+
 }  // namespace
 
 bool QtHost::ShowBox(const Box& box) {
-    const WindowManager::OwnBox ownBox(windows_);
     QMessageBox message(QApplication::activeWindow());
     message.setWindowTitle(ToQString(box.title));
     message.setTextFormat(Qt::PlainText);
@@ -65,7 +79,7 @@ bool QtHost::ShowBox(const Box& box) {
         message.setDefaultButton(QMessageBox::Yes);
         message.setEscapeButton(QMessageBox::No);
     }
-    const int answer = message.exec();
+    const int answer = Show(message);
     return answer == QMessageBox::Yes || answer == QMessageBox::Ok;
 }
 
@@ -81,40 +95,42 @@ std::string QtHost::ClipboardText() {
     return FromQString(QGuiApplication::clipboard()->text());
 }
 
-std::optional<FileChoice> QtHost::ChooseFile(const FileQuestion& question) {
-    const WindowManager::OwnBox ownBox(windows_);
-    QFileDialog dialog(QApplication::activeWindow());
-    dialog.setAcceptMode(question.saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setDirectory(QFile::decodeName(question.folder.c_str()));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    return FileChoice{QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString(),
-                      question.filterIndex};
-}
-
-std::optional<std::string> QtHost::AskForText(const std::string& prompt) {
-    const WindowManager::OwnBox ownBox(windows_);
-    bool accepted = false;
-    const QString text = QInputDialog::getText(QApplication::activeWindow(), {}, ToQString(prompt),
-                                               QLineEdit::Normal, {}, &accepted);
-    return accepted ? std::optional(FromQString(text)) : std::nullopt;
-}
-
 void QtHost::SetClipboard(const std::string& text, std::shared_ptr<const Drawing> picture) {
-    SetClipboardText(text);
-    picture_ = std::move(picture);
+    QGuiApplication::clipboard()->setMimeData(new TextAndPicture(text, std::move(picture)));
 }
 
 std::shared_ptr<const Drawing> QtHost::ClipboardPicture() {
-    return picture_;
+    const auto* own = dynamic_cast<const TextAndPicture*>(QGuiApplication::clipboard()->mimeData());
+    return own == nullptr ? nullptr : own->Picture();
 }
 
-void QtHost::Print(const Drawing&) {
-    throw RuntimeError(ErrorNumber::kPrinter);
+// Over the active window, and over the windows that stay above all others.
+int QtHost::Show(QDialog& dialog) {
+    const WindowManager::OwnBox ownBox(windows_);
+    if (windows_ != nullptr && windows_->HasTopmost())
+        dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+    return dialog.exec();
+}
+
+std::optional<FileChoice> QtHost::ChooseFile(const FileQuestion& question) {
+    FileDialog dialog(QApplication::activeWindow(), question);
+    if (Show(dialog) != QDialog::Accepted) return std::nullopt;
+    return dialog.Choice();
+}
+
+std::optional<std::string> QtHost::AskForText(const std::string& prompt) {
+    QInputDialog dialog(QApplication::activeWindow());
+    dialog.setLabelText(ToQString(prompt));
+    if (Show(dialog) != QDialog::Accepted) return std::nullopt;
+    return FromQString(dialog.textValue());
+}
+
+void QtHost::Print(const Drawing& picture) {
+    PrintOnePage(picture);
 }
 
 OpenResult QtHost::Open(const std::string& address) {
-    const auto url = QUrl::fromUserInput(QFile::decodeName(address.c_str()));
-    return QDesktopServices::openUrl(url) ? OpenResult::kOpened : OpenResult::kFailed;
+    return OpenByDesktop(address);
 }
 
 std::unique_ptr<Process> QtHost::Start(const ProgramStart& start) {

@@ -3,6 +3,8 @@
 
 #include "platform/host.h"
 
+class QDialog;
+
 namespace arbolith {
 
 class WindowManager;
@@ -30,8 +32,9 @@ public:
     void EndProgram() override;
 
 private:
+    int Show(QDialog& dialog);
+
     WindowManager* windows_ = nullptr;
-    std::shared_ptr<const Drawing> picture_;
     bool ended_ = false;
 };
 

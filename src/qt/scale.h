@@ -19,6 +19,8 @@ public:
     /// laid out for and the smallest button holds a line of it, more where that needs it.
     static Scale For(const Form& form, const QFont& font);
 
+    bool operator==(const Scale&) const = default;
+
     double Factor() const { return factor_; }
     /// How much larger the font is than the one the forms are laid out for; at least 1.
     static double FontFactor(const QFont& font);

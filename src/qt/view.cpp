@@ -8,15 +8,9 @@ namespace arbolith {
 
 namespace {
 
-// The colour's bytes are blue, green and red from the highest down; the top bit marks a colour of
-// the desktop's.
+// The top bit marks a colour of the desktop's.
 bool IsSystemColour(Colour colour) {
     return (colour & 0x80000000) != 0;
-}
-
-QColor ColourOf(Colour colour) {
-    const auto byte = [&](int shift) { return static_cast<int>((colour >> shift) & 0xFF); };
-    return {byte(0), byte(8), byte(16)};
 }
 
 bool Labels(const Control& control) {
@@ -43,6 +37,11 @@ std::string AccessibleNameOf(const Control& control) {
 }
 
 }  // namespace
+
+QColor ColourOf(Colour colour) {
+    const auto byte = [&](int shift) { return static_cast<int>((colour >> shift) & 0xFF); };
+    return {byte(0), byte(8), byte(16)};
+}
 
 QString ObjectNameOf(const Control& control) {
     QString name = ToQString(control.Name());

@@ -5,6 +5,7 @@
 #include "forms/control.h"
 #include "forms/user_actions.h"
 
+#include <QColor>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPalette>
@@ -57,6 +58,9 @@ private:
     QWidget* widget_;
     Colour shownColour_ = kButtonFace;
 };
+
+/// A colour whose bytes are blue, green and red from the highest down.
+QColor ColourOf(Colour colour);
 
 /// The object name of a control's widget: its name, with the index of a control array.
 QString ObjectNameOf(const Control& control);

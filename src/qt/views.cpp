@@ -33,8 +33,9 @@ View* MakeView(Control& control, FormWindow& window) {
             return MakePictureView(static_cast<Picture&>(control), window);
         case ControlKind::kGrid:
             return MakeGridView(static_cast<Grid&>(control), window);
-        case ControlKind::kForm:
         case ControlKind::kChart:
+            return MakeChartView(static_cast<Chart&>(control), window);
+        case ControlKind::kForm:
             break;
     }
     return nullptr;

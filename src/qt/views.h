@@ -2,6 +2,7 @@
 // window at the control's place, with the control's name.
 #pragma once
 
+#include "forms/chart.h"
 #include "forms/controls.h"
 #include "forms/grid.h"
 #include "qt/view.h"
@@ -24,5 +25,6 @@ View* MakeTimerView(Timer& timer, FormWindow& window);
 View* MakeProgressBarView(ProgressBar& bar, FormWindow& window);
 View* MakePictureView(Picture& picture, FormWindow& window);
 View* MakeGridView(Grid& grid, FormWindow& window);
+View* MakeChartView(Chart& chart, FormWindow& window);
 
 }  // namespace arbolith

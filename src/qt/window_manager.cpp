@@ -1,5 +1,6 @@
 #include "qt/window_manager.h"
 
+#include "qt/chart_drawing.h"
 #include "qt/form_window.h"
 
 #include <QApplication>
@@ -25,6 +26,7 @@ WindowManager::WindowManager(Application& application, bool manualTimers)
       manualTimers_(manualTimers),
       context_(std::make_unique<QObject>()) {
     application_.onSettled = [this] { Flush(); };
+    application_.drawChart = DrawChart;
     if (!manualTimers_) WatchComingBack();
 }
 
@@ -109,6 +111,12 @@ std::vector<FormWindow*> WindowManager::OpenWindows() const {
     for (const Entry& entry : entries_)
         if (entry.form->Visible()) open.push_back(entry.window);
     return open;
+}
+
+bool WindowManager::HasTopmost() const {
+    return std::any_of(entries_.begin(), entries_.end(), [](const Entry& entry) {
+        return entry.form->Visible() && entry.form->Topmost();
+    });
 }
 
 // Brings the active form's window to the front when the form was shown anew or became active.

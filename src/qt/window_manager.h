@@ -39,6 +39,9 @@ public:
     /// The windows that are open, in the order of their last showing.
     std::vector<FormWindow*> OpenWindows() const;
 
+    /// Whether an open window stays above all others.
+    bool HasTopmost() const;
+
     /// Puts the keyboard focus where the state has it.
     void ShowFocus();
     /// The same when the events at hand are through.

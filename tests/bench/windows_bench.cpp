@@ -1,8 +1,9 @@
 // What the windows add: a run up to the painted table, the processor time of waiting while a timer
-// fires, the start up to the splash, and the memory of the main form. --check turns the limits into
-// the exit code.
+// fires, the start up to the splash, the memory of the main form, and a redraw of the chart.
+// --check turns the limits into the exit code.
 #include "bench/application_folder.h"
 #include "bench/bare_exchange.h"
+#include "bench/chart_redraw.h"
 #include "bench/measure.h"
 #include "bench/white_pine.h"
 #include "qt/form_window.h"
@@ -27,6 +28,7 @@ constexpr double kRunLimit = 4;
 constexpr double kWaitLimit = 1.5;
 constexpr double kStartLimit = 2.5;
 constexpr double kMemoryLimit = 1.5;
+constexpr double kChartLimit = 3;
 constexpr int kTimerMilliseconds = 10;
 constexpr int kWaitMilliseconds = 5000;
 
@@ -143,6 +145,7 @@ int Main(bool check) {
     report.AtMost("processor time of waiting / bare event loop", WaitRatio(), kWaitLimit);
     report.AtMost("start to first paint of the splash / empty window", StartRatio(), kStartLimit);
     report.AtMost("memory with the main form / empty window", MemoryRatio(), kMemoryLimit);
+    report.AtMost("redraw of 24 series / bare drawing", ChartRedrawRatio(), kChartLimit);
     return check && !report.AllHold() ? 1 : 0;
 }
 

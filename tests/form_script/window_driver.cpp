@@ -2,6 +2,7 @@
 
 #include "form_script/shown_properties.h"
 #include "form_script/window_events.h"
+#include "qt/chart_view.h"
 #include "qt/form_window.h"
 #include "qt/texts.h"
 #include "qt/window_manager.h"
@@ -137,11 +138,16 @@ public:
         Drag(*table.viewport(), placeOf(row, col), [&] { return placeOf(rowSel, colSel); });
     }
 
-    // Until a chart is drawn there is nothing to hit with the mouse.
+    // Where several points lie at one place the chart asks which of them is meant.
     void PickPoint(Chart& chart, int series, int point) override {
-        WindowToUse(chart.Owner()).Perform([&](UserActions& actions) {
-            actions.PickPoint(chart, series, point);
-        });
+        auto& view = dynamic_cast<ChartView&>(Approach(chart));
+        const DataPoint picked{series, point};
+        const auto place = view.Drawn().PlaceOf(picked);
+        if (!place) throw ActionRefused(chart.Name() + " doesn't show such a data point");
+        const auto there = view.Drawn().PointsAt(place->toPoint());
+        ClickAt(*view.viewport(), place->toPoint());
+        if (there.size() == 1) return;
+        ClickEntry(OpenMenu(), EntryNameOf(picked));
     }
 
     void Resize(Form& form, Size clientSize) override {
@@ -252,16 +258,27 @@ private:
     void ClickEntry(QWidget& above, const Control& item) const {
         RequireUsable(item);
         if (!above.isVisible()) throw ActionRefused("the menu of " + item.Name() + " is not open");
+        ClickEntry(above, ObjectNameOf(item));
+    }
+
+    static void ClickEntry(QWidget& above, const QString& name) {
         for (QAction* action : above.actions()) {
-            if (action->objectName() != ObjectNameOf(item)) continue;
-            if (!action->isEnabled()) throw ActionRefused(item.Name() + " is shown as disabled");
+            if (action->objectName() != name) continue;
+            if (!action->isEnabled())
+                throw ActionRefused(FromQString(name) + " is shown as disabled");
             const auto* bar = qobject_cast<const QMenuBar*>(&above);
             const QRect place = bar != nullptr ? bar->actionGeometry(action)
                                                : dynamic_cast<QMenu&>(above).actionGeometry(action);
             ClickAt(above, place.center());
             return;
         }
-        throw ActionRefused(item.Name() + " is no entry of its menu");
+        throw ActionRefused(FromQString(name) + " is no entry of its menu");
+    }
+
+    static QWidget& OpenMenu() {
+        QWidget* popup = QApplication::activePopupWidget();
+        if (popup == nullptr) throw ActionRefused("no menu is open");
+        return *popup;
     }
 
     static void CloseMenus() {

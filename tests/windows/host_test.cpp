@@ -1,3 +1,4 @@
+#include "platform/runtime_error.h"
 #include "window_test.h"
 
 #include <QAbstractButton>
@@ -104,6 +105,15 @@ TEST_F(HostTest, TheClipboardHoldsTextOfTheCodePage) {
     EXPECT_EQ(QApplication::clipboard()->text(), QString::fromUtf8("m³/ha\ttab\rnext"));
     QApplication::clipboard()->setText(QString::fromUtf8("€→"));
     EXPECT_EQ(host.ClipboardText(), "\x80?");
+}
+
+TEST_F(HostTest, WithoutAPrinterPrintingIsAnError) {
+    try {
+        host.Print(BlankDrawing({1500, 1500}));
+        FAIL() << "it was printed";
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.Number(), ErrorNumber::kPrinter);
+    }
 }
 
 TEST_F(HostTest, TheScreenIsToldInTwips) {

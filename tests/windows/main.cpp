@@ -1,6 +1,8 @@
 // Runs the tests of the windows with the toolkit up, on a screen in memory that is large enough for
 // every form also at the double resolution.
 #include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 
 #include <cstdio>
@@ -26,6 +28,9 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName().toUtf8());
     }
     qInstallMessageHandler(DropPlatformComplaints);
+    // What the toolkit remembers of its dialogs is gone with the tests.
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     QApplication toolkit(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();

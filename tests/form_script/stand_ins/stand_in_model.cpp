@@ -13,7 +13,8 @@
 //   crash        ends by a signal
 //   hang         goes on until `stand_in.txt` or its folder is removed
 //
-// A call whose steps are none of the writing ones leaves the output file as it is.
+// A call whose steps are none of the writing ones leaves the output file as it is. One that writes
+// puts the whole file into its place at once: where two calls overlap, nobody reads half an output.
 #include <algorithm>
 #include <cstddef>
 #include <cstdio>
@@ -50,10 +51,12 @@ std::string OutputPath() {
     return WithoutReturn(output);
 }
 
-// Which call this is, from 1, with each call leaving a mark for the next ones.
+// Which call this is, from 1, with each call leaving a mark for the next ones. What counts is where
+// the own mark went, since another call may leave one at the same time.
 std::size_t CountCall() {
-    std::ofstream(kCalls, std::ios::app) << '.';
-    return static_cast<std::size_t>(std::filesystem::file_size(kCalls));
+    std::ofstream calls(kCalls, std::ios::app);
+    calls << '.' << std::flush;
+    return static_cast<std::size_t>(calls.tellp());
 }
 
 std::vector<Steps> ReadDirections() {
@@ -100,25 +103,35 @@ void Hang() {
     }
 }
 
+// What stands in the file's place and is no file, a device for example, is written to as it is.
+void PutOutput(const std::string& path, const std::string& bytes) {
+    const auto status = std::filesystem::symlink_status(path);
+    const bool isInTheWay = exists(status) && !is_regular_file(status);
+    const std::string written = isInTheWay ? path : path + '.' + std::to_string(getpid());
+    std::ofstream(written, std::ios::binary) << bytes;
+    if (!isInTheWay) std::filesystem::rename(written, path);
+}
+
 bool Obey(const std::string& step, const std::string& path) {
     std::istringstream words(step);
     std::string verb;
     std::string object;
     words >> verb >> object;
-    const auto output = [&path] { return std::ofstream(path, std::ios::binary); };
+    std::ostringstream output;
     if (verb == "rows") {
-        auto file = output();
-        WriteTable(file, std::stoi(object), false);
+        WriteTable(output, std::stoi(object), false);
+        PutOutput(path, output.str());
     } else if (verb == "truncated") {
-        auto file = output();
-        WriteTable(file, 4, true);
+        WriteTable(output, 4, true);
+        PutOutput(path, output.str());
     } else if (verb == "garbage") {
-        auto file = output();
-        WriteGarbage(file);
+        WriteGarbage(output);
+        PutOutput(path, output.str());
     } else if (verb == "copy") {
-        std::filesystem::copy_file(object, path, std::filesystem::copy_options::overwrite_existing);
+        output << std::ifstream(object, std::ios::binary).rdbuf();
+        PutOutput(path, output.str());
     } else if (verb == "empty") {
-        output();
+        PutOutput(path, "");
     } else if (verb == "remove") {
         std::filesystem::remove(path);
     } else if (verb == "crash") {

@@ -1,0 +1,84 @@
+#include "qt/chart_view.h"
+
+#include "qt/form_window.h"
+#include "qt/scale.h"
+#include "qt/views.h"
+
+#include <QMenu>
+#include <QToolTip>
+
+namespace arbolith {
+
+ChartView::ChartView(Chart& chart, FormWindow& window)
+    : QChartView(window.InsideOf(chart.Parent())),
+      View(chart, window, this),
+      chart_(chart),
+      drawn_(new DrawnChart(Scale::FontFactor(window.font()))) {
+    setChart(drawn_);
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setRenderHint(QPainter::Antialiasing);
+    setBackgroundBrush(Qt::NoBrush);
+    viewport()->setAutoFillBackground(false);
+    viewport()->setMouseTracking(true);
+}
+
+void ChartView::Refresh() {
+    RefreshWidget();
+    drawn_->SetTextFactor(Scale::FontFactor(Window().font()));
+    drawn_->Draw(PlotOf(chart_));
+    setAccessibleDescription(drawn_->Drawn().title);
+}
+
+void ChartView::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void ChartView::mouseMoveEvent(QMouseEvent* event) {
+    QStringList texts;
+    for (const DataPoint point : drawn_->PointsAt(event->position()))
+        texts << TextOf(drawn_->Drawn(), point);
+    viewport()->setCursor(texts.isEmpty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
+    QToolTip::showText(event->globalPosition().toPoint(), texts.join(u'\n'), viewport());
+}
+
+void ChartView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    const auto points = drawn_->PointsAt(event->position());
+    if (points.size() == 1) Pick(points.front());
+    if (points.size() > 1) AskWhich(points, event->globalPosition().toPoint());
+}
+
+void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void ChartView::leaveEvent(QEvent*) {
+    QToolTip::hideText();
+}
+
+void ChartView::Pick(DataPoint point) {
+    Perform([&](UserActions& actions) { actions.PickPoint(chart_, point.series, point.point); });
+}
+
+void ChartView::AskWhich(const std::vector<DataPoint>& points, QPoint place) {
+    QToolTip::hideText();
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const DataPoint point : points) {
+        const QString text = TextOf(drawn_->Drawn(), point).replace(u'\n', QStringLiteral(", "));
+        QAction* entry = menu->addAction(text, this, [this, point] { Pick(point); });
+        entry->setObjectName(EntryNameOf(point));
+    }
+    menu->popup(place);
+}
+
+QString EntryNameOf(DataPoint point) {
+    return QStringLiteral("%1,%2").arg(point.series).arg(point.point);
+}
+
+View* MakeChartView(Chart& chart, FormWindow& window) {
+    return new ChartView(chart, window);
+}
+
+}  // namespace arbolith

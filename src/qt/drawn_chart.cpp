@@ -1,0 +1,316 @@
+#include "qt/drawn_chart.h"
+
+#include "qt/series_look.h"
+
+#include <QBarSet>
+#include <QGraphicsLayout>
+#include <QGraphicsSceneResizeEvent>
+#include <QLegend>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace arbolith {
+
+namespace {
+
+// Above everything that the toolkit draws, and negative below it.
+constexpr double kTopZ = 1000;
+const QColor kAxisColour(0x40, 0x40, 0x40);
+const QColor kGridColour(0xA8, 0xA8, 0xA8);
+// A row's share that its bars take.
+constexpr double kBarWidth = 0.8;
+// Bars that are narrower than this get a finer edge.
+constexpr double kPlainBar = 6;
+// Divisions nearer to each other than this are not drawn, in pixels.
+constexpr double kNarrowest = 4;
+// Between the shapes on a line that has many points, in pixels.
+constexpr double kBetweenShapes = 12;
+// How far from a point a click still means it, and how much farther than the nearest one another
+// lies as good as at the same place.
+constexpr double kReach = 8;
+constexpr double kSamePoint = 1;
+constexpr double kSameBar = 0.5;
+
+QPen PenOf(PenStyle style, const QColor& colour) {
+    switch (style) {
+        case PenStyle::kNone:
+            return Qt::NoPen;
+        case PenStyle::kDashed:
+            return {colour, 1, Qt::DashLine};
+        case PenStyle::kDotted:
+            return {colour, 1, Qt::DotLine};
+        case PenStyle::kSolid:
+            break;
+    }
+    return {colour, 1};
+}
+
+double Distance(const QRectF& rect, QPointF place) {
+    const double x = std::max({rect.left() - place.x(), 0.0, place.x() - rect.right()});
+    const double y = std::max({rect.top() - place.y(), 0.0, place.y() - rect.bottom()});
+    return std::hypot(x, y);
+}
+
+}  // namespace
+
+// What is drawn here, below or above all that the toolkit draws.
+class DrawnChart::Layer : public QGraphicsItem {
+public:
+    using Paint = void (DrawnChart::*)(QPainter&) const;
+
+    Layer(DrawnChart& chart, double z, Paint paint)
+        : QGraphicsItem(&chart), chart_(chart), paint_(paint) {
+        setZValue(z);
+        setAcceptedMouseButtons(Qt::NoButton);
+    }
+    QRectF boundingRect() const override { return chart_.rect(); }
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
+        (chart_.*paint_)(*painter);
+    }
+    void Changed() {
+        prepareGeometryChange();
+        update();
+    }
+
+private:
+    DrawnChart& chart_;
+    Paint paint_;
+};
+
+DrawnChart::DrawnChart(double textFactor)
+    : textFactor_(textFactor),
+      xAxis_(new QValueAxis(this)),
+      yAxis_(new QValueAxis(this)),
+      ground_(new Layer(*this, -kTopZ, &DrawnChart::PaintGround)),
+      marks_(new Layer(*this, kTopZ, &DrawnChart::PaintMarks)) {
+    // The toolkit's own ground doesn't follow the sheet while the plot has its place from here.
+    setBackgroundVisible(false);
+    layout()->setContentsMargins(0, 0, 0, 0);
+    setMargins({});
+    legend()->hide();
+    for (QValueAxis* axis : {xAxis_, yAxis_}) {
+        axis->setLabelsVisible(false);
+        axis->setLinePen(QPen(kAxisColour, 1));
+        addAxis(axis, axis == xAxis_ ? Qt::AlignBottom : Qt::AlignLeft);
+    }
+}
+
+void DrawnChart::Draw(Plot plot) {
+    plot_ = std::move(plot);
+    LayOutAnew();
+    DrawData();
+}
+
+void DrawnChart::SetTextFactor(double factor) {
+    if (textFactor_ == factor) return;
+    textFactor_ = factor;
+    LayOutAnew();
+}
+
+void DrawnChart::resizeEvent(QGraphicsSceneResizeEvent* event) {
+    QChart::resizeEvent(event);
+    LayOutAnew();
+}
+
+void DrawnChart::LayOutAnew() {
+    layout_ = LayOut(plot_, size(), textFactor_);
+    setPlotArea(layout_.plot);
+    DrawAxis(*xAxis_, plot_.x, plot_.xLines, layout_.plot.width());
+    DrawAxis(*yAxis_, plot_.y, plot_.yLines, layout_.plot.height());
+    layout()->activate();
+    PutTexts();
+    ground_->Changed();
+    marks_->Changed();
+}
+
+void DrawnChart::DrawAxis(QValueAxis& axis, const AxisScale& scale, const ChartAxis& lines,
+                          double length) {
+    const bool hasRoom = length / scale.majorDivisions >= kNarrowest;
+    const bool hasMinor =
+        hasRoom && length / scale.majorDivisions / scale.minorDivisions >= kNarrowest;
+    axis.setRange(scale.minimum, scale.maximum);
+    axis.setTickCount(hasRoom ? scale.majorDivisions + 1 : 2);
+    axis.setMinorTickCount(hasMinor ? scale.minorDivisions - 1 : 0);
+    axis.setGridLineVisible(lines.MajorPen != PenStyle::kNone);
+    axis.setGridLinePen(PenOf(lines.MajorPen, kGridColour));
+    axis.setMinorGridLineVisible(lines.MinorPen != PenStyle::kNone);
+    axis.setMinorGridLinePen(PenOf(lines.MinorPen, kGridColour));
+}
+
+void DrawnChart::PutTexts() {
+    texts_.resize(layout_.texts.size());
+    for (std::size_t i = 0; i < texts_.size(); ++i) {
+        auto& item = texts_[i];
+        if (item == nullptr) item = std::make_unique<QGraphicsSimpleTextItem>(this);
+        const PlacedText& placed = layout_.texts[i];
+        item->setFont(placed.font);
+        item->setText(placed.text);
+        const QPointF middle = item->boundingRect().center();
+        item->setTransformOriginPoint(middle);
+        item->setRotation(placed.angle);
+        item->setPos(placed.middle - middle);
+    }
+}
+
+void DrawnChart::DrawData() {
+    const bool isSame = plot_.hasBars ? bars_ != nullptr && lines_.empty()
+                                      : bars_ == nullptr && lines_.size() == plot_.series.size();
+    if (!isSame) {
+        removeAllSeries();
+        lines_.clear();
+        bars_ = nullptr;
+    }
+    plot_.hasBars ? DrawBars() : DrawLines();
+}
+
+void DrawnChart::DrawLines() {
+    while (lines_.size() < plot_.series.size()) {
+        auto* line = new QLineSeries(this);
+        line->setPen(LookOfSeries(static_cast<int>(lines_.size())).line);
+        addSeries(line);
+        line->attachAxis(xAxis_);
+        line->attachAxis(yAxis_);
+        lines_.push_back(line);
+    }
+    for (std::size_t i = 0; i < lines_.size(); ++i) lines_[i]->replace(plot_.series[i].points);
+}
+
+void DrawnChart::DrawBars() {
+    if (bars_ == nullptr) {
+        bars_ = new QBarSeries(this);
+        bars_->setBarWidth(kBarWidth);
+    } else {
+        removeSeries(bars_);
+        bars_->clear();
+    }
+    for (std::size_t i = 0; i < plot_.series.size(); ++i) {
+        auto* bars = new QBarSet(plot_.series[i].name, bars_);
+        for (const QPointF& point : plot_.series[i].points) *bars << point.y();
+        const double width = BarOf(i, 1).width();
+        bars->setBrush(LookOfSeries(static_cast<int>(i)).barFill);
+        bars->setPen(QPen(plot_.barEdge, std::min(1.0, width / kPlainBar)));
+        bars_->append(bars);
+    }
+    addSeries(bars_);
+    bars_->attachAxis(xAxis_);
+    bars_->attachAxis(yAxis_);
+}
+
+QPointF DrawnChart::Mapped(QPointF value) const {
+    const auto share = [](double v, const AxisScale& scale) {
+        return (v - scale.minimum) / (scale.maximum - scale.minimum);
+    };
+    const QRectF& plot = layout_.plot;
+    return {plot.left() + share(value.x(), plot_.x) * plot.width(),
+            plot.bottom() - share(value.y(), plot_.y) * plot.height()};
+}
+
+// As the toolkit draws them: those of one row side by side.
+QRectF DrawnChart::BarOf(std::size_t series, int row) const {
+    const double value = plot_.series[series].points.value(row - 1).y();
+    const double width = kBarWidth / static_cast<double>(plot_.series.size());
+    const double left = row - 1 - kBarWidth / 2 + width * static_cast<double>(series);
+    const QRectF bar(Mapped({left, value}), Mapped({left + width, 0}));
+    const QRectF& plot = layout_.plot;
+    const auto inside = [&](double y) { return std::clamp(y, plot.top(), plot.bottom()); };
+    const QRectF upright = bar.normalized();
+    return {QPointF(upright.left(), inside(upright.top())),
+            QPointF(upright.right(), inside(upright.bottom()))};
+}
+
+void DrawnChart::PaintGround(QPainter& painter) const {
+    if (plot_.backdrop.isValid()) painter.fillRect(rect(), plot_.backdrop);
+    if (!plot_.hasWall) return;
+    painter.setPen(QPen(kAxisColour, 1));
+    painter.drawRect(layout_.plot);
+}
+
+void DrawnChart::PaintMarks(QPainter& painter) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!plot_.hasBars) PaintPoints(painter);
+    PaintLegend(painter);
+}
+
+// A line with many points shows the shapes of some, so that its dashes are seen between them.
+void DrawnChart::PaintPoints(QPainter& painter) const {
+    const QRectF inside = layout_.plot.adjusted(-1, -1, 1, 1);
+    for (std::size_t i = 0; i < plot_.series.size(); ++i) {
+        const SeriesLook look = LookOfSeries(static_cast<int>(i));
+        painter.setPen(QPen(look.line.color(), 1));
+        painter.setBrush(look.pointFill);
+        std::optional<QPointF> last;
+        for (const QPointF& point : plot_.series[i].points) {
+            const QPointF place = Mapped(point);
+            if (!inside.contains(place)) continue;
+            if (last && QLineF(*last, place).length() < kBetweenShapes) continue;
+            last = place;
+            painter.drawPath(look.point.translated(place));
+        }
+    }
+}
+
+void DrawnChart::PaintLegend(QPainter& painter) const {
+    for (std::size_t i = 0; i < layout_.samples.size(); ++i) {
+        const SeriesLook look = LookOfSeries(static_cast<int>(i));
+        const QRectF& sample = layout_.samples[i];
+        if (plot_.hasBars) {
+            QRectF square(0, 0, sample.width() - 2, sample.width() - 2);
+            square.moveCenter(sample.center());
+            painter.setPen(QPen(plot_.barEdge, 1));
+            painter.setBrush(look.barFill);
+            painter.drawRect(square);
+            continue;
+        }
+        painter.setPen(look.line);
+        painter.drawLine(QPointF(sample.left(), sample.center().y()),
+                         QPointF(sample.right(), sample.center().y()));
+        painter.setPen(QPen(look.line.color(), 1));
+        painter.setBrush(look.pointFill);
+        painter.drawPath(look.point.translated(sample.center()));
+    }
+}
+
+std::optional<QPointF> DrawnChart::PlaceOf(DataPoint point) const {
+    for (std::size_t i = 0; i < plot_.series.size(); ++i) {
+        const PlotSeries& series = plot_.series[i];
+        if (series.number != point.series || point.point < 1 || point.point > series.points.size())
+            continue;
+        if (plot_.hasBars) return BarOf(i, point.point).center();
+        const QPointF place = Mapped(series.points[point.point - 1]);
+        if (layout_.plot.adjusted(-1, -1, 1, 1).contains(place)) return place;
+    }
+    return std::nullopt;
+}
+
+double DrawnChart::DistanceTo(std::size_t series, int row, QPointF place) const {
+    if (plot_.hasBars) return Distance(BarOf(series, row), place);
+    const QPointF drawn = Mapped(plot_.series[series].points[row - 1]);
+    return layout_.plot.adjusted(-1, -1, 1, 1).contains(drawn)
+               ? QLineF(drawn, place).length()
+               : std::numeric_limits<double>::infinity();
+}
+
+std::vector<DataPoint> DrawnChart::PointsAt(QPointF place) const {
+    std::vector<std::pair<double, DataPoint>> near;
+    double nearest = kReach;
+    for (std::size_t i = 0; i < plot_.series.size(); ++i) {
+        const auto rows = static_cast<int>(plot_.series[i].points.size());
+        for (int row = 1; row <= rows; ++row) {
+            const double distance = DistanceTo(i, row, place);
+            if (distance > kReach) continue;
+            near.push_back({distance, {plot_.series[i].number, row}});
+            nearest = std::min(nearest, distance);
+        }
+    }
+    std::vector<DataPoint> points;
+    const double farthest = nearest + (plot_.hasBars ? kSameBar : kSamePoint);
+    for (const auto& [distance, point] : near)
+        if (distance <= farthest) points.push_back(point);
+    return points;
+}
+
+}  // namespace arbolith
