@@ -62,8 +62,8 @@ class DrawnChart::Layer : public QGraphicsItem {
 public:
     using Paint = void (DrawnChart::*)(QPainter&) const;
 
-    Layer(DrawnChart& chart, double z, Paint paint)
-        : QGraphicsItem(&chart), chart_(chart), paint_(paint) {
+    Layer(DrawnChart& chart, double z, Paint draw)
+        : QGraphicsItem(&chart), chart_(chart), paint_(draw) {
         setZValue(z);
         setAcceptedMouseButtons(Qt::NoButton);
     }
