@@ -24,7 +24,7 @@ Program::Program(Application& application)
       splash_(application),
       run_(application),
       batch_(run_),
-      results_(run_, resize_),
+      results_(run_, batch_, resize_),
       runCommand_{run_, [this]() -> YieldTable& { return results_.output.Get(); },
                   [this] { ApplySequence(batch_); }} {
     run_.probeTreatments = [this] { TreatmentProbe(run_); };
