@@ -18,8 +18,9 @@ namespace arbolith {
 void WireMainForm(RunDefinition& run, RunCommand& command, AtFirstUse<Definitions>& definitions,
                   Resize& resize);
 
-/// What the Output window leads to.
+/// What the Output window leads to. Its reports are laid out as those of the batch.
 struct OutputTargets {
+    Batch& batch;
     GraphBuilder& graphs;
     AtFirstUse<CustomChart>& customChart;
     AtFirstUse<Definitions>& definitions;

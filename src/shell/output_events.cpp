@@ -1,5 +1,6 @@
 // The events of the Output window: control, event, and what runs.
 #include "charts/graph_buttons.h"
+#include "results/output_save.h"
 #include "shell/events.h"
 
 #include <utility>
@@ -27,15 +28,11 @@ void WireGraphButtons(OutputForm& form, const OutputTargets& targets) {
     };
 }
 
-// Saving: its work isn't in the program yet.
-void DisableWhatIsToCome(OutputForm& form) {
-    form.Save_Mnu.SetEnabled(false);
-}
-
 }  // namespace
 
 void WireOutput(Output& output, const OutputTargets& targets, Resize& resize) {
     auto& form = output.form;
+    form.Save_Mnu.onClick = [&output, &batch = targets.batch] { SaveOutput(output, batch); };
     form.Select_All_Mnu.onClick = [&output] { output.SelectAll(); };
     form.Copy_Mnu.onClick = [&output] { output.Copy_Mnu_Click(); };
     form.Definitions_Mnu.onClick = [&definitions = targets.definitions] {
@@ -46,7 +43,6 @@ void WireOutput(Output& output, const OutputTargets& targets, Resize& resize) {
     form.Close_Program_Mnu.onClick = [&form] { form.GetApplication().End(); };
     form.onResize = [&form, &resize] { resize.ResizeForm(form); };
     WireGraphButtons(form, targets);
-    DisableWhatIsToCome(form);
 }
 
 }  // namespace arbolith

@@ -25,7 +25,7 @@ Program::Program(Application& application)
       run_(application),
       batch_(run_),
       saved_{run_, batch_, ""},
-      results_(run_, resize_),
+      results_(run_, batch_, resize_),
       runCommand_{run_, [this]() -> YieldTable& { return results_.output.Get(); },
                   [this] { ApplySequence(batch_); }} {
     run_.probeTreatments = [this] { TreatmentProbe(run_); };

@@ -4,10 +4,10 @@
 
 namespace arbolith {
 
-ResultWindows::ResultWindows(RunDefinition& run, Resize& resize)
-    : output([&run, &resize, this] {
+ResultWindows::ResultWindows(RunDefinition& run, Batch& batch, Resize& resize)
+    : output([&run, &batch, &resize, this] {
           auto window = std::make_unique<Output>(run.application);
-          WireOutput(*window, {graphs, customChart, definitions}, resize);
+          WireOutput(*window, {batch, graphs, customChart, definitions}, resize);
           return window;
       }),
       definitions([&run, &resize] {

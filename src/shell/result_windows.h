@@ -1,6 +1,7 @@
 // The windows that follow a run: the yield table, its charts and the definitions.
 #pragma once
 
+#include "batch/batch.h"
 #include "charts/custom_chart.h"
 #include "charts/graph_builder.h"
 #include "forms/at_first_use.h"
@@ -13,8 +14,8 @@ namespace arbolith {
 
 /// Each window is created, and its events wired, at its first use.
 struct ResultWindows {
-    /// Both must outlive the windows.
-    ResultWindows(RunDefinition& run, Resize& resize);
+    /// All must outlive the windows.
+    ResultWindows(RunDefinition& run, Batch& batch, Resize& resize);
     ResultWindows(const ResultWindows&) = delete;
     ResultWindows& operator=(const ResultWindows&) = delete;
 
