@@ -1,16 +1,16 @@
 // The pieces of the HTML report, byte for byte.
 #include "batch/html_report.h"
 
+#include "platform/headless_host.h"
 #include "platform/version.h"
 #include "unit/platform/expect_error.h"
-#include "unit/run_definition/fake_host.h"
 
 #include <gtest/gtest.h>
 
 namespace arbolith {
 namespace {
 
-class DatedHost : public FakeHost {
+class DatedHost : public HeadlessHost {
 public:
     Date Today() override { return today; }
     Date today{2026, 3, 5};
