@@ -86,7 +86,12 @@ void ChartWindow::PlaceControls(const FullScreenPlaces& places) {
 }
 
 void ChartWindow::KeepFullScreen() {
-    if (FullScreen.Tag() != kNotInFullScreen) PlaceControls(PlacesInFullScreen());
+    if (FullScreen.Tag() == kNotInFullScreen) return;
+    if (State() == WindowState::kNormal) {
+        LeaveFullScreen();
+    } else {
+        PlaceControls(PlacesInFullScreen());
+    }
 }
 
 void ChartWindow::ToggleFullScreen() {

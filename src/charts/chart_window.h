@@ -38,7 +38,8 @@ struct ChartWindow : Form {
     /// Enters full screen, or leaves it, by the Tag of `FullScreen`: "No" or "Yes". Throws an
     /// overflow, and changes nothing, on a screen whose places don't fit 16 bits.
     void ToggleFullScreen();
-    /// Brings the controls back to their places in full screen behind a resize of the window.
+    /// Behind a resize of the window: in full screen the controls go back to their places there; a
+    /// window that a person has taken out of it leaves it.
     void KeepFullScreen();
     /// The size of the screen in pixels; throws an overflow where it doesn't fit 16 bits.
     struct Resolution {
