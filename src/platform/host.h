@@ -68,7 +68,8 @@ public:
     /// Asks for a file's name; nothing where the dialog was cancelled.
     virtual std::optional<FileChoice> ChooseFile(const FileQuestion& question) = 0;
 
-    /// Asks for a line of text; nothing where the box was cancelled.
+    /// Asks for a file's name by a line of text, in the file system's own bytes; nothing where the
+    /// box was cancelled.
     virtual std::optional<std::string> AskForText(const std::string& prompt) = 0;
 
     virtual void SetClipboardText(const std::string& text) = 0;

@@ -21,6 +21,7 @@ ChartView::ChartView(Chart& chart, FormWindow& window)
     setBackgroundBrush(Qt::NoBrush);
     viewport()->setAutoFillBackground(false);
     viewport()->setMouseTracking(true);
+    parentWidget()->installEventFilter(this);
 }
 
 void ChartView::Refresh() {
@@ -28,6 +29,18 @@ void ChartView::Refresh() {
     drawn_->SetTextFactor(Scale::FontFactor(Window().font()));
     drawn_->Draw(PlotOf(chart_));
     setAccessibleDescription(drawn_->Drawn().title);
+}
+
+// A chart that is told larger than its window (as high as the screen, with a title bar above it) is
+// drawn in what there is, so that nothing of it is cut off.
+QRect ChartView::ShownPlace() const {
+    return View::ShownPlace().intersected(parentWidget()->rect());
+}
+
+bool ChartView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Resize && !Window().IsGone())
+        setGeometry(ShownPlace());
+    return QChartView::eventFilter(watched, event);
 }
 
 void ChartView::mousePressEvent(QMouseEvent* event) {

@@ -17,6 +17,8 @@ public:
     const DrawnChart& Drawn() const { return *drawn_; }
 
 protected:
+    QRect ShownPlace() const override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

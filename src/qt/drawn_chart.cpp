@@ -7,10 +7,11 @@
 #include <QGraphicsSceneResizeEvent>
 #include <QLegend>
 #include <QPainter>
+#include <QPolygonF>
+#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace arbolith {
@@ -29,6 +30,9 @@ constexpr double kPlainBar = 6;
 constexpr double kNarrowest = 4;
 // Between the shapes on a line that has many points, in pixels.
 constexpr double kBetweenShapes = 12;
+// A point farther outside the plot than this is not on it.
+constexpr double kInside = 1;
+constexpr double kArrow = 8;
 // How far from a point a click still means it, and how much farther than the nearest one another
 // lies as good as at the same place.
 constexpr double kReach = 8;
@@ -47,6 +51,14 @@ QPen PenOf(PenStyle style, const QColor& colour) {
             break;
     }
     return {colour, 1};
+}
+
+// Where a point lies that can't be shown: along an angle in degrees, from the right to the left
+// hand.
+QPainterPath Arrow(double angle) {
+    QPainterPath arrow;
+    arrow.addPolygon(QPolygonF({{0, 0}, {-kArrow, kArrow / 2}, {-kArrow, -kArrow / 2}, {0, 0}}));
+    return QTransform().rotate(-angle).map(arrow);
 }
 
 double Distance(const QRectF& rect, QPointF place) {
@@ -69,7 +81,7 @@ public:
     }
     QRectF boundingRect() const override { return chart_.rect(); }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) override {
-        (chart_.*paint_)(*painter);
+        (chart_.*painting_)(*painter);
     }
     void Changed() {
         prepareGeometryChange();
@@ -78,7 +90,7 @@ public:
 
 private:
     DrawnChart& chart_;
-    Paint paint_;
+    Painting painting_;
 };
 
 DrawnChart::DrawnChart(double textFactor)
@@ -209,17 +221,19 @@ QPointF DrawnChart::Mapped(QPointF value) const {
             plot.bottom() - share(value.y(), plot_.y) * plot.height()};
 }
 
+// The nearest place on the plot.
+QPointF DrawnChart::InPlot(QPointF place) const {
+    const QRectF& plot = layout_.plot;
+    return {std::clamp(place.x(), plot.left(), plot.right()),
+            std::clamp(place.y(), plot.top(), plot.bottom())};
+}
+
 // As the toolkit draws them: those of one row side by side.
 QRectF DrawnChart::BarOf(std::size_t series, int row) const {
     const double value = plot_.series[series].points.value(row - 1).y();
     const double width = kBarWidth / static_cast<double>(plot_.series.size());
     const double left = row - 1 - kBarWidth / 2 + width * static_cast<double>(series);
-    const QRectF bar(Mapped({left, value}), Mapped({left + width, 0}));
-    const QRectF& plot = layout_.plot;
-    const auto inside = [&](double y) { return std::clamp(y, plot.top(), plot.bottom()); };
-    const QRectF upright = bar.normalized();
-    return {QPointF(upright.left(), inside(upright.top())),
-            QPointF(upright.right(), inside(upright.bottom()))};
+    return QRectF(InPlot(Mapped({left, value})), InPlot(Mapped({left + width, 0}))).normalized();
 }
 
 void DrawnChart::PaintGround(QPainter& painter) const {
@@ -235,20 +249,21 @@ void DrawnChart::PaintMarks(QPainter& painter) const {
     PaintLegend(painter);
 }
 
-// A line with many points shows the shapes of some, so that its dashes are seen between them.
+// A line with many points shows the shapes of some, so that its dashes are seen between them. Where
+// a point lies outside the plot an arrow says so.
 void DrawnChart::PaintPoints(QPainter& painter) const {
-    const QRectF inside = layout_.plot.adjusted(-1, -1, 1, 1);
     for (std::size_t i = 0; i < plot_.series.size(); ++i) {
         const SeriesLook look = LookOfSeries(static_cast<int>(i));
         painter.setPen(QPen(look.line.color(), 1));
         painter.setBrush(look.pointFill);
         std::optional<QPointF> last;
         for (const QPointF& point : plot_.series[i].points) {
-            const QPointF place = Mapped(point);
-            if (!inside.contains(place)) continue;
+            const QPointF place = InPlot(Mapped(point));
             if (last && QLineF(*last, place).length() < kBetweenShapes) continue;
             last = place;
-            painter.drawPath(look.point.translated(place));
+            const QLineF outwards(place, Mapped(point));
+            painter.drawPath((outwards.length() < kInside ? look.point : Arrow(outwards.angle()))
+                                 .translated(place));
         }
     }
 }
@@ -279,19 +294,15 @@ std::optional<QPointF> DrawnChart::PlaceOf(DataPoint point) const {
         const PlotSeries& series = plot_.series[i];
         if (series.number != point.series || point.point < 1 || point.point > series.points.size())
             continue;
-        if (plot_.hasBars) return BarOf(i, point.point).center();
-        const QPointF place = Mapped(series.points[point.point - 1]);
-        if (layout_.plot.adjusted(-1, -1, 1, 1).contains(place)) return place;
+        return plot_.hasBars ? BarOf(i, point.point).center()
+                             : InPlot(Mapped(series.points[point.point - 1]));
     }
     return std::nullopt;
 }
 
 double DrawnChart::DistanceTo(std::size_t series, int row, QPointF place) const {
     if (plot_.hasBars) return Distance(BarOf(series, row), place);
-    const QPointF drawn = Mapped(plot_.series[series].points[row - 1]);
-    return layout_.plot.adjusted(-1, -1, 1, 1).contains(drawn)
-               ? QLineF(drawn, place).length()
-               : std::numeric_limits<double>::infinity();
+    return QLineF(InPlot(Mapped(plot_.series[series].points[row - 1])), place).length();
 }
 
 std::vector<DataPoint> DrawnChart::PointsAt(QPointF place) const {

@@ -27,7 +27,8 @@ public:
     const Plot& Drawn() const { return plot_; }
     const ChartLayout& Layout() const { return layout_; }
 
-    /// Where a data point is drawn, or the end of its bar; nothing for one that isn't.
+    /// Where a data point is drawn, or the middle of its bar; the edge of the plot for one outside
+    /// its scales, nothing for one that there isn't.
     std::optional<QPointF> PlaceOf(DataPoint point) const;
     /// The data points at a place, as far as a hand can tell: the nearest and those that lie as
     /// good as on it, in the order of the series.
@@ -50,6 +51,7 @@ private:
     void PaintPoints(QPainter& painter) const;
     void PaintLegend(QPainter& painter) const;
     QPointF Mapped(QPointF value) const;
+    QPointF InPlot(QPointF place) const;
     QRectF BarOf(std::size_t series, int row) const;
     double DistanceTo(std::size_t series, int row, QPointF place) const;
 

@@ -48,7 +48,7 @@ public:
     }
 
     void Refresh() override {
-        const QString caption = ToQString(label_.Caption());
+        const QString caption = ToShownText(label_.Caption());
         if (text() != caption) setText(caption);
         FindBuddy(caption);
         RefreshFont();

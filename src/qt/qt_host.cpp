@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QEventLoop>
+#include <QFile>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QMimeData>
@@ -72,7 +73,7 @@ bool QtHost::ShowBox(const Box& box) {
     QMessageBox message(QApplication::activeWindow());
     message.setWindowTitle(ToQString(box.title));
     message.setTextFormat(Qt::PlainText);
-    message.setText(ToQString(box.text));
+    message.setText(ToShownText(box.text));
     message.setIcon(IconOf(box.icon));
     if (box.buttons == BoxButtons::kYesNo) {
         message.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
@@ -122,7 +123,7 @@ std::optional<std::string> QtHost::AskForText(const std::string& prompt) {
     QInputDialog dialog(QApplication::activeWindow());
     dialog.setLabelText(ToQString(prompt));
     if (Show(dialog) != QDialog::Accepted) return std::nullopt;
-    return FromQString(dialog.textValue());
+    return QFile::encodeName(dialog.textValue()).toStdString();
 }
 
 void QtHost::Print(const Drawing& picture) {

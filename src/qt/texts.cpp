@@ -2,6 +2,8 @@
 
 #include "platform/code_page.h"
 
+#include <QStringDecoder>
+
 namespace arbolith {
 
 QString ToQString(std::string_view text) {
@@ -10,6 +12,14 @@ QString ToQString(std::string_view text) {
     for (const char c : text)
         *out++ = QChar(static_cast<char16_t>(CodePointOf(static_cast<unsigned char>(c))));
     return result;
+}
+
+// No text of the program's own is by chance such a sequence of bytes.
+QString ToShownText(std::string_view text) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
+    const QString decoded =
+        decoder(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+    return decoder.hasError() ? ToQString(text) : decoded;
 }
 
 std::string FromQString(QStringView text) {

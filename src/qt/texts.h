@@ -11,6 +11,10 @@ namespace arbolith {
 /// Qt's text for a Windows-1252 one.
 QString ToQString(std::string_view text);
 
+/// The same for what is only shown: a text with a path in it, whose bytes are the file system's, is
+/// shown as these say.
+QString ToShownText(std::string_view text);
+
 /// Windows-1252 for Qt's text; a character outside the code page becomes '?'.
 std::string FromQString(QStringView text);
 

@@ -263,16 +263,23 @@ TEST_F(ChartViewTest, EveryBarCanBePickedByTheMouse) {
         }
 }
 
-TEST_F(ChartViewTest, APointOutsideTheScaleIsNotThere) {
+TEST_F(ChartViewTest, APointOutsideTheScaleIsShownAtTheEdge) {
     Do([&] {
         ChartAxis axis = form.chart.Axis(Chart::kAxisY);
         axis.Scale.Maximum = 10;
         form.chart.SetAxis(Chart::kAxisY, axis);
     });
-    EXPECT_EQ(Drawn().PlaceOf({1, 16}), std::nullopt);
-    EXPECT_THROW(driver->PickPoint(form.chart, 1, 16), ActionRefused);
+    const QPoint place = PlaceOf(3, 16);
+    EXPECT_NEAR(place.y(), Drawn().Layout().plot.top(), 1);
+    EXPECT_GT(CountDrawn({place - QPointF(3, 0), QSizeF(6, 8)}), 10);
+    driver->PickPoint(form.chart, 3, 16);
+    EXPECT_EQ(TakePicked(), (Picked{{3, 16}}));
+}
+
+TEST_F(ChartViewTest, APointThatThereIsNotCanNotBePicked) {
     EXPECT_THROW(driver->PickPoint(form.chart, 2, 1), ActionRefused);
     EXPECT_THROW(driver->PickPoint(form.chart, 1, 17), ActionRefused);
+    EXPECT_THROW(driver->PickPoint(form.chart, 1, 0), ActionRefused);
 }
 
 TEST_F(ChartViewTest, TheMouseOverAPointShowsWhatItSays) {

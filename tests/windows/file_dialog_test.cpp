@@ -223,6 +223,14 @@ TEST(AskForText, WhatIsTypedIsTheAnswer) {
     EXPECT_EQ(AskForText([](QInputDialog& box) { box.accept(); }), "");
 }
 
+TEST(AskForText, ANameIsInTheFileSystemsOwnBytes) {
+    EXPECT_EQ(AskForText([](QInputDialog& box) {
+                  box.setTextValue(QString::fromUtf8("été →"));
+                  box.accept();
+              }),
+              "\xC3\xA9t\xC3\xA9 \xE2\x86\x92");
+}
+
 TEST(AskForText, ACancelAnswersNothing) {
     EXPECT_EQ(AskForText([](QInputDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); }),
               std::nullopt);

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
+#include <QWindow>
 
 namespace arbolith {
 
@@ -153,6 +154,42 @@ TEST_F(FormWindowTest, MaximisingGoesBothWays) {
     WindowOf(form).showNormal();
     EXPECT_TRUE(QTest::qWaitFor([&] { return form.ClientSize().width == 6000; }));
     EXPECT_EQ(form.State(), WindowState::kNormal);
+}
+
+TEST_F(FormWindowTest, AMaximisedFormHas15TwipsToThePixel) {
+    struct Low : Form {
+        explicit Low(Application& application) : Form(application, "Low", "Low", {6000, 4500}) {}
+        Button button{*this, "button", "Low", {1500, 1500, 1500, 255}};
+    } low(application);
+    Open(low);
+    const int scaled = WidgetOf<QWidget>(low.button).x();
+    EXPECT_GT(scaled, 100);
+    Do([&] { low.SetState(WindowState::kMaximised); });
+    EXPECT_EQ(WidgetOf<QWidget>(low.button).x(), 100);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return low.ClientSize().width == WindowOf(low).width() * 15; }));
+    Do([&] {
+        low.SetState(WindowState::kNormal);
+        low.SetClientSize({6000, 4500});
+    });
+    window_events::Settle();
+    EXPECT_EQ(low.ClientSize().width, 6000);
+    EXPECT_EQ(WidgetOf<QWidget>(low.button).x(), scaled);
+    EXPECT_NEAR(WindowOf(low).width(), scaled * 4, 3);
+}
+
+TEST_F(FormWindowTest, ATopmostFormKeepsItsWindowOnTop) {
+    const auto isOnTop = [&] {
+        return WindowOf(form).windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint);
+    };
+    form.SetTopmost(true);
+    Open(form);
+    EXPECT_TRUE(isOnTop());
+    Do([&] { form.SetTopmost(false); });
+    EXPECT_FALSE(isOnTop());
+    Do([&] { form.SetTopmost(true); });
+    EXPECT_TRUE(isOnTop());
+    EXPECT_TRUE(WindowOf(form).isVisible());
 }
 
 TEST_F(FormWindowTest, ThePlaceOnTheScreenIsTold) {

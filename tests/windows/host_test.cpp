@@ -85,6 +85,26 @@ TEST_F(HostTest, ABoxComesOverStatesAsTheyStand) {
     });
 }
 
+TEST_F(HostTest, ABoxComesOverWindowsThatStayOnTop) {
+    Open();
+    const auto isOnTop = [&] {
+        bool onTop = false;
+        ShowBox({"Box", "", BoxIcon::kNone, BoxButtons::kOk}, [&](QMessageBox& box) {
+            onTop = box.windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+        });
+        return onTop;
+    };
+    EXPECT_FALSE(isOnTop());
+    application.Enter([&] { form.SetTopmost(true); });
+    EXPECT_TRUE(isOnTop());
+}
+
+TEST_F(HostTest, ABoxShowsAPathAsItsFileIsCalled) {
+    ShowBox(
+        {"Saved /home/\xC3\xA9t\xC3\xA9.txt", "", BoxIcon::kNone, BoxButtons::kOk},
+        [](QMessageBox& box) { EXPECT_EQ(box.text(), QString::fromUtf8("Saved /home/été.txt")); });
+}
+
 TEST_F(HostTest, ClosingABoxRaisesNoActivate) {
     Open();
     int activations = 0;
