@@ -14,9 +14,8 @@ inline constexpr const char* kOutputError = "<< Error: Select a file >>";
 
 /// The columns of the list of sequences: plot, unit, regeneration, species and stocking, site,
 /// rotation, treatments. Those of the heading above it are the same.
-inline const TextColumns kSequenceColumns = {{0, true},    {1140, true},  {1740, false},
-                                             {3480, true}, {5160, false}, {6300, true},
-                                             {7980, false}};
+inline const TextColumns kSequenceColumns = {{0, true},    {85, true},  {130, false}, {260, true},
+                                             {385, false}, {470, true}, {595, false}};
 
 struct BatchPanel {
     /// Makes the controls on the form's frame Batch.
@@ -35,10 +34,10 @@ struct BatchPanel {
         form.Batch, "Batch_OutputPath", "Output Path and File", {7140, 360, 6900, 1440}};
     TextBox batch_out{Batch_OutputPath, "batch_out", {240, 360, 6420, 375}};
     Button outFileBtn{Batch_OutputPath, "outFileBtn", "Select File", {240, 840, 1560, 420}};
-    Button viewBatBtn{Batch_OutputPath, "viewBatBtn", "View", {1920, 840, 1200, 420}};
-    CheckBox batchHTML{Batch_OutputPath, "batchHTML", "HTML", {3240, 840, 960, 375}};
+    Button viewBatBtn{Batch_OutputPath, "viewBatBtn", "View", {1920, 840, 960, 420}};
+    CheckBox batchHTML{Batch_OutputPath, "batchHTML", "HTML", {3000, 840, 900, 420}};
     CheckBox chkBorder{
-        Batch_OutputPath, "chkBorder", "Apply gridlines to data cells", {4200, 840, 2640, 375}};
+        Batch_OutputPath, "chkBorder", "Apply gridlines to data cells", {3900, 840, 2940, 420}};
 
     Frame Batch_Sequence{form.Batch, "Batch_Sequence", "Sequence", {120, 1920, 13920, 5400}};
     Label Label1{Batch_Sequence,
@@ -59,16 +58,16 @@ struct BatchPanel {
         Batch_Sequence,
         "Label8",
         "Pressing DELETE will remove the Selected item. Pressing INSERT will let you add an item.",
-        {240, 4080, 13440, 285}};
+        {240, 4020, 13440, 285}};
     Button Append_Make_Btn{
-        Batch_Sequence, "Append_Make_Btn", "Create Sequence To Append", {240, 4440, 2760, 420}};
+        Batch_Sequence, "Append_Make_Btn", "Create Sequence To Append", {240, 4380, 2880, 420}};
     Button editSeqBtn{
-        Batch_Sequence, "editSeqBtn", "Edit Selected Sequence", {3120, 4440, 2520, 420}};
+        Batch_Sequence, "editSeqBtn", "Edit Selected Sequence", {3240, 4380, 2760, 420}};
     Button Del_Seq_Btn{
-        Batch_Sequence, "Del_Seq_Btn", "Delete Selected Sequence", {5760, 4440, 2640, 420}};
+        Batch_Sequence, "Del_Seq_Btn", "Delete Selected Sequence", {6120, 4380, 2760, 420}};
     Button Copy_Seq_Btn{
-        Batch_Sequence, "Copy_Seq_Btn", "Copy and Create New", {8520, 4440, 2280, 420}};
-    Button PlotNum_btn{Batch_Sequence, "PlotNum_btn", "Edit Plot Number", {10920, 4440, 1920, 420}};
+        Batch_Sequence, "Copy_Seq_Btn", "Copy and Create New", {9000, 4380, 2400, 420}};
+    Button PlotNum_btn{Batch_Sequence, "PlotNum_btn", "Edit Plot Number", {11520, 4380, 2160, 420}};
     Label Label9{Batch_Sequence, "Label9", "Enter Plot Number:", {240, 4965, 2040, 285}};
     TextBox plotn{Batch_Sequence, "plotn", {2400, 4920, 2280, 375}};
     Button ok_btn{Batch_Sequence, "ok_btn", "OK", {4800, 4920, 960, 375}};

@@ -22,7 +22,7 @@ enum class Alignment { kLeft, kRight, kCentre };
 /// Where a column of a text begins. In a line of text a run of tabs leads to the next column that
 /// stands behind a tab, a run of blanks to the next one before that.
 struct TextColumn {
-    int left = 0;  ///< Twips, from the inside of the list.
+    int left = 0;  ///< In thousandths of the list's width.
     bool behindTab = false;
 };
 using TextColumns = std::vector<TextColumn>;

@@ -81,8 +81,8 @@ private:
         painter.setPen(palette().color(foregroundRole()));
         // The rows below stand within the edge of their list.
         const int edge = style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
-        DrawInColumns(painter, rect().adjusted(edge, 0, -edge, 0), text(), columns_,
-                      Window().GetScale());
+        const QRect line = rect().adjusted(edge, 0, -edge, 0);
+        DrawInColumns(painter, line, text(), columns_, line.width());
     }
 
     void PaintFocus() {

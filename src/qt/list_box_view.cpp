@@ -13,6 +13,9 @@ namespace arbolith {
 
 namespace {
 
+// The told fonts are smaller in the same size than those of a desktop.
+constexpr double kGrowth = 1.15;
+
 // Reads the rows from the list itself.
 class RowsModel final : public QAbstractListModel {
 public:
@@ -115,6 +118,7 @@ private:
         if (list_.GetLook().font.empty()) return;
         QFont told = Window().font();
         told.setFamily(ToQString(list_.GetLook().font));
+        told.setPointSizeF(told.pointSizeF() * kGrowth);
         if (font() != told) setFont(told);
     }
 

@@ -10,6 +10,9 @@ namespace {
 
 // Between the line's edge and its text.
 constexpr int kMargin = 3;
+constexpr int kWhole = 1000;
+// Between two lines.
+constexpr int kSpacing = 2;
 
 // Walks through a line of text from column to column.
 class Cutter {
@@ -73,13 +76,14 @@ std::vector<ColumnPiece> CutIntoColumns(const QString& text, const TextColumns& 
 }
 
 void DrawInColumns(QPainter& painter, const QRect& line, const QString& text,
-                   const TextColumns& columns, const Scale& scale) {
+                   const TextColumns& columns, int width) {
     const QFontMetrics metrics = painter.fontMetrics();
     const int origin = line.left() + kMargin;
     const int end = line.right() - kMargin;
     int free = origin;
     for (const auto& piece : CutIntoColumns(text, columns)) {
-        const int left = std::max(origin + scale.Pixels(columns[piece.column].left), free);
+        const int told = origin + columns[piece.column].left * width / kWhole;
+        const int left = std::max(told, free);
         const QString shown = metrics.elidedText(piece.text, Qt::ElideRight, end - left);
         painter.drawText(QRect(left, line.top(), std::max(0, end - left), line.height()),
                          Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, shown);
@@ -87,8 +91,8 @@ void DrawInColumns(QPainter& painter, const QRect& line, const QString& text,
     }
 }
 
-RowsInColumns::RowsInColumns(const TextColumns& columns, const Scale& scale, QObject* parent)
-    : QStyledItemDelegate(parent), columns_(columns), scale_(scale) {}
+RowsInColumns::RowsInColumns(const TextColumns& columns, QFrame& list)
+    : QStyledItemDelegate(&list), columns_(columns), list_(list) {}
 
 void RowsInColumns::paint(QPainter* painter, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const {
@@ -106,11 +110,11 @@ void RowsInColumns::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->setFont(row.font);
     painter->setPen(
         row.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
-    DrawInColumns(*painter, row.rect, text, columns_, scale_);
+    DrawInColumns(*painter, row.rect, text, columns_, list_.width() - 2 * list_.frameWidth());
 }
 
 QSize RowsInColumns::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    return {1, QStyledItemDelegate::sizeHint(option, index).height()};
+    return {1, QStyledItemDelegate::sizeHint(option, index).height() + kSpacing};
 }
 
 }  // namespace arbolith

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "forms/controls.h"
-#include "qt/scale.h"
 
+#include <QFrame>
 #include <QPainter>
 #include <QStyledItemDelegate>
 
@@ -22,16 +22,16 @@ struct ColumnPiece {
 /// Cuts a line of text into its columns; empty parts are left out.
 std::vector<ColumnPiece> CutIntoColumns(const QString& text, const TextColumns& columns);
 
-/// Draws a line of text in columns with the painter's font and pen. What is too long for its column
-/// moves the next one on; what is too long for the line is cut visibly.
+/// Draws a line of text in columns with the painter's font and pen; `width` is that of the whole
+/// list. What is too long for its column moves the next one on; what is too long for the line is
+/// cut visibly.
 void DrawInColumns(QPainter& painter, const QRect& line, const QString& text,
-                   const TextColumns& columns, const Scale& scale);
+                   const TextColumns& columns, int width);
 
-/// Draws the rows of a list in columns.
+/// Draws the rows of a list in columns; belongs to the list.
 class RowsInColumns final : public QStyledItemDelegate {
 public:
-    /// `scale` is asked anew for each row.
-    RowsInColumns(const TextColumns& columns, const Scale& scale, QObject* parent);
+    RowsInColumns(const TextColumns& columns, QFrame& list);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
@@ -40,7 +40,7 @@ public:
 
 private:
     const TextColumns& columns_;
-    const Scale& scale_;
+    const QFrame& list_;
 };
 
 }  // namespace arbolith

@@ -1,11 +1,11 @@
 // What the program adds to a model's own time, without windows: a single run, the treatment probe,
-// and the processor time of waiting. --check turns the limits into the exit code.
+// and the processor time of waiting; and what it adds to the bare reading of a batch. --check turns
+// the limits into the exit code.
 #include "bench/application_folder.h"
+#include "bench/bare_batch.h"
 #include "bench/bare_exchange.h"
+#include "bench/headless_program.h"
 #include "bench/measure.h"
-#include "bench/white_pine.h"
-#include "platform/headless_host.h"
-#include "shell/program.h"
 
 #include <cstring>
 #include <filesystem>
@@ -16,21 +16,7 @@ namespace {
 constexpr double kRunLimit = 1.5;
 constexpr double kProbeLimit = 1.3;
 constexpr double kWaitLimit = 0.005;
-
-struct HeadlessProgram {
-    explicit HeadlessProgram(const std::string& folder)
-        : application(host, folder, ""), program(application), user(application) {
-        program.Start();
-        user.Tick(program.GetSplash().Timer1);
-        EnterWhitePine(user, Form());
-    }
-    MainForm& Form() { return program.Run().form; }
-
-    HeadlessHost host;
-    Application application;
-    Program program;
-    UserActions user;
-};
+constexpr double kBatchLimit = 5;
 
 double RunRatio() {
     const ApplicationFolder folder;
@@ -64,11 +50,20 @@ double WaitRatio() {
     return (ProcessorSeconds() - before) / waited;
 }
 
+// The largest batch there can be, into the panel.
+double BatchReadRatio() {
+    const ApplicationFolder folder;
+    HeadlessProgram headless(folder.Path());
+    return MedianRatio([&] { headless.Read(FULL_BATCH); }, [] { ReadAndSplitBare(FULL_BATCH); });
+}
+
 int Main(bool check) {
     Report report;
     report.AtMost("single run, click to filled table / bare model", RunRatio(), kRunLimit);
     report.AtMost("probe on a change of Age1 / bare exchange", ProbeRatio(), kProbeLimit);
     report.AtMost("processor time of waiting / time waited", WaitRatio(), kWaitLimit);
+    report.AtMost("batch of 1025 into the panel / bare read and split", BatchReadRatio(),
+                  kBatchLimit);
     return check && !report.AllHold() ? 1 : 0;
 }
 

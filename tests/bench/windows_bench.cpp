@@ -4,6 +4,7 @@
 #include "bench/application_folder.h"
 #include "bench/bare_exchange.h"
 #include "bench/chart_redraw.h"
+#include "bench/headless_program.h"
 #include "bench/measure.h"
 #include "bench/white_pine.h"
 #include "qt/form_window.h"
@@ -28,6 +29,7 @@ constexpr double kRunLimit = 4;
 constexpr double kWaitLimit = 1.5;
 constexpr double kStartLimit = 2.5;
 constexpr double kMemoryLimit = 1.5;
+constexpr double kBatchLimit = 10;
 constexpr double kChartLimit = 3;
 constexpr int kTimerMilliseconds = 10;
 constexpr int kWaitMilliseconds = 5000;
@@ -139,6 +141,29 @@ double MemoryRatio() {
     return Median(ours) / Median(floor);
 }
 
+// Up to the painted list.
+double BatchReadRatio() {
+    const ApplicationFolder folder;
+    HeadlessProgram headless(folder.Path());
+    WindowedProgram windowed(folder.Path());
+    const auto read = [&] {
+        windowed.application.Enter([&] { ReadBatch(windowed.program.GetBatch(), FULL_BATCH); });
+    };
+    read();
+    PaintWatch watch;
+    watch.Watch(windowed.windows.WindowOf(windowed.Form())
+                    ->findChild<QAbstractScrollArea*>(QStringLiteral("Batch_Seq"))
+                    ->viewport());
+    return MedianRatio(
+        [&] {
+            watch.TakePainted();
+            read();
+            while (!watch.TakePainted())
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        },
+        [&] { headless.Read(FULL_BATCH); });
+}
+
 int Main(bool check) {
     Report report;
     report.AtMost("single run, click to painted table / bare exchange", RunRatio(), kRunLimit);
@@ -146,6 +171,8 @@ int Main(bool check) {
     report.AtMost("start to first paint of the splash / empty window", StartRatio(), kStartLimit);
     report.AtMost("memory with the main form / empty window", MemoryRatio(), kMemoryLimit);
     report.AtMost("redraw of 24 series / bare drawing", ChartRedrawRatio(), kChartLimit);
+    report.AtMost("batch of 1025 into the painted panel / without windows", BatchReadRatio(),
+                  kBatchLimit);
     return check && !report.AllHold() ? 1 : 0;
 }
 

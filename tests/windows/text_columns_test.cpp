@@ -9,7 +9,7 @@ namespace arbolith {
 
 namespace {
 
-const TextColumns kColumns = {{0, true}, {1200, true}, {2400, false}, {3600, true}, {4800, false}};
+const TextColumns kColumns = {{0, true}, {170, true}, {330, false}, {500, true}, {670, false}};
 
 using Pieces = std::vector<ColumnPiece>;
 
