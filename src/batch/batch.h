@@ -34,6 +34,9 @@ struct Batch {
 void NewBatch(Batch& batch);
 /// Reads the file into the panel and shows it; runs the batch where the file says so.
 void ReadBatch(Batch& batch, const std::string& path);
+/// Only reads it; whether the file says that it is to be run. `BatchPath` is the path then; a read
+/// that fails leaves it as it was.
+bool LoadBatch(Batch& batch, const std::string& path);
 /// Replaces the file by the batch on the panel.
 void WriteBatch(Batch& batch, const std::string& path);
 /// Appends the committed run to the file, which is created where it is missing, and reads it.

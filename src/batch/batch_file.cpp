@@ -36,14 +36,6 @@ void PassOverErrors(const std::function<void()>& work) {
     }
 }
 
-std::vector<std::string> ReadItems(NumberedFiles& files, const std::string& path) {
-    std::vector<std::string> items;
-    files.OpenForInput(kBatchFile, path);
-    while (!files.AtEndOfFile(kBatchFile)) items.emplace_back(files.ItemRead(kBatchFile));
-    files.Close(kBatchFile);
-    return items;
-}
-
 void PrintLines(NumberedFiles& files, const std::vector<std::string>& lines) {
     for (const auto& line : lines) files.PrintLine(kBatchFile, line);
 }
@@ -137,10 +129,15 @@ void NewBatch(Batch& batch) {
 }
 
 void ReadBatch(Batch& batch, const std::string& path) {
+    if (LoadBatch(batch, path)) RunBatch(batch);
+}
+
+bool LoadBatch(Batch& batch, const std::string& path) {
     auto& application = batch.run.application;
+    bool runsByItself = false;
     WithTrap(application, "An unknown error has occurred opening the file.", [&] {
         ShowPanelForFile(batch, path);
-        const auto items = ReadItems(application.Files(), path);
+        const auto items = ReadItems(application.Files(), kBatchFile, path);
         if (const auto output = OutputOf(items)) TakeOutput(batch, *output);
         batch.SeqPlots.fill(" ");
         batch.SeqWoods.fill("");
@@ -148,8 +145,9 @@ void ReadBatch(Batch& batch, const std::string& path) {
         RefreshBatchPanel(batch);
         batch.BatchDirty = false;
         batch.BatchPath = path;
-        if (RunsByItself(items)) RunBatch(batch);
+        runsByItself = RunsByItself(items);
     });
+    return runsByItself;
 }
 
 void WriteBatch(Batch& batch, const std::string& path) {

@@ -54,6 +54,14 @@ std::vector<std::string> HeadingOfBatch(std::string_view output) {
     return lines;
 }
 
+std::vector<std::string> ReadItems(NumberedFiles& files, int number, const std::string& path) {
+    std::vector<std::string> items;
+    files.OpenForInput(number, path);
+    while (!files.AtEndOfFile(number)) items.emplace_back(files.ItemRead(number));
+    files.Close(number);
+    return items;
+}
+
 std::optional<std::string> OutputOf(const std::vector<std::string>& items) {
     if (items.size() <= kOutputLine || !BeginsWithKeyword(items[kOutputLine], kOutput))
         return std::nullopt;

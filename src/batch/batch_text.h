@@ -1,6 +1,8 @@
 // The text of a batch file: the heading that explains it, and how a line of one is understood.
 #pragma once
 
+#include "platform/numbered_files.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,6 +24,10 @@ inline constexpr const char* kTextExtension = "txt";
 
 /// All lines before the sequences, with the value of the output line.
 std::vector<std::string> HeadingOfBatch(std::string_view output);
+
+/// The items of a batch file, which is opened under a number meanwhile. Throws what opening and
+/// reading throw.
+std::vector<std::string> ReadItems(NumberedFiles& files, int number, const std::string& path);
 
 /// The value of the output line of a file's items; nothing where the line says something else.
 std::optional<std::string> OutputOf(const std::vector<std::string>& items);

@@ -89,7 +89,8 @@ std::string OnOneLine(std::string text) {
 }  // namespace
 
 bool ConsoleHost::ShowBox(const Box& box) {
-    Note(box.title == kInputFault ? ExitStatus::kRefused : boxStatus_, OnOneLine(box.text));
+    Note(box.title == kInputFault ? ExitStatus::kRefused : boxStatus_,
+         subject_ + ": " + OnOneLine(box.text));
     return box.buttons == BoxButtons::kOk;
 }
 
@@ -123,6 +124,11 @@ void ConsoleHost::WaitForEnd(Process& process, const std::function<bool()>& give
             if (process.HasEnded()) return;
         }
     }
+}
+
+void ConsoleHost::CallBoxes(ExitStatus status, std::string subject) {
+    boxStatus_ = status;
+    subject_ = std::move(subject);
 }
 
 std::optional<Failure> ConsoleHost::TakeFailure() {

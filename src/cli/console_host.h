@@ -29,8 +29,8 @@ public:
     /// A signal that asks for the end stops the model and calls `onInterrupt`.
     void WaitForEnd(Process& process, const std::function<bool()>& giveUp) override;
 
-    /// The status of the failures that boxes tell from now on.
-    void CallBoxes(ExitStatus status) { boxStatus_ = status; }
+    /// The status of the failures that boxes tell from now on, and what they are about.
+    void CallBoxes(ExitStatus status, std::string subject);
     /// The failure so far, which is forgotten; none where all went well.
     std::optional<Failure> TakeFailure();
     /// Throws the failure so far, or Interrupted.
@@ -50,6 +50,7 @@ private:
 
     Terminal& terminal_;
     ExitStatus boxStatus_ = ExitStatus::kFailed;
+    std::string subject_ = "the program";
     std::optional<Failure> failure_;
     std::string model_;
 };

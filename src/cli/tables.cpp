@@ -94,7 +94,9 @@ CsvStand TableOf(const Output& output, const RunDefinition& run, const std::stri
 
 std::vector<CsvStand> TablesOf(Batch& batch) {
     std::vector<CsvStand> stands;
-    for (int i = 0; i < batch.panel.Batch_Seq.ListCount(); ++i) stands.push_back(StandOf(batch, i));
+    const int count = batch.panel.Batch_Seq.ListCount();
+    stands.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) stands.push_back(StandOf(batch, i));
     for (const auto* name : {kHardwoodOutputName, kSoftwoodOutputName})
         ReadResults(batch, name, stands);
     return stands;

@@ -4,8 +4,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <utility>
-
 namespace arbolith::notepad {
 
 namespace {
@@ -14,7 +12,7 @@ constexpr int kFieldCharacters = 40;
 
 }  // namespace
 
-FindDialog::FindDialog(QWidget* parent, std::function<void(Direction)> find)
+FindDialog::FindDialog(QWidget* parent, const std::function<void(Direction)>& find)
     : QDialog(parent),
       text_(new QLineEdit(this)),
       matchesCase_(new QCheckBox(QStringLiteral("Match &case"), this)),

@@ -16,7 +16,7 @@ namespace arbolith::notepad {
 class FindDialog : public QDialog {
 public:
     /// `find` runs the search when a button asks for it.
-    FindDialog(QWidget* parent, std::function<void(Direction)> find);
+    FindDialog(QWidget* parent, const std::function<void(Direction)>& find);
 
     /// Comes to the front with a text to start from; an empty one leaves what was sought last.
     void Ask(const QString& text);

@@ -98,7 +98,7 @@ private:
         const auto folder = std::filesystem::path(target).parent_path();
         const auto stem = ".arbolith-" + std::to_string(getpid()) + "-";
         for (int number = 0;; ++number) {
-            const auto path = (folder / (stem + std::to_string(number))).string();
+            auto path = (folder / (stem + std::to_string(number))).string();
             struct stat found {};
             if (lstat(path.c_str(), &found) != 0) return path;
         }

@@ -61,27 +61,27 @@ public:
 };
 
 TEST_F(ConsoleHostTest, ABoxIsAFailureOfThePhase) {
-    host.CallBoxes(ExitStatus::kBadFile);
+    host.CallBoxes(ExitStatus::kBadFile, "stand.qvn");
     EXPECT_TRUE(host.ShowBox({"File is corrupt or wrong format", "File Open"}));
-    EXPECT_EQ(Failed(), "3 File is corrupt or wrong format");
+    EXPECT_EQ(Failed(), "3 stand.qvn: File is corrupt or wrong format");
     EXPECT_EQ(Failed(), "");
 }
 
 TEST_F(ConsoleHostTest, AFaultOfTheInputIsARefusalInEveryPhase) {
-    host.CallBoxes(ExitStatus::kModel);
+    host.CallBoxes(ExitStatus::kModel, "stand.qvn");
     host.ShowBox({"Please enter a Rotation Age", "Input Error", BoxIcon::kExclamation});
-    EXPECT_EQ(Failed(), "4 Please enter a Rotation Age");
+    EXPECT_EQ(Failed(), "4 stand.qvn: Please enter a Rotation Age");
 }
 
 TEST_F(ConsoleHostTest, TheFirstBoxCounts) {
     host.ShowBox(BoxOf("first"));
     host.ShowBox(BoxOf("second"));
-    EXPECT_EQ(Failed(), "1 first");
+    EXPECT_EQ(Failed(), "1 the program: first");
 }
 
 TEST_F(ConsoleHostTest, ABoxOfSeveralLinesIsToldOnOne) {
     host.ShowBox(BoxOf("does not exist.\r\nFile: a.txt\n"));
-    EXPECT_EQ(Failed(), "1 does not exist. File: a.txt");
+    EXPECT_EQ(Failed(), "1 the program: does not exist. File: a.txt");
 }
 
 TEST_F(ConsoleHostTest, AQuestionIsAnsweredWithNo) {

@@ -1,0 +1,148 @@
+// Runs the stands of a batch file on the forms' batch view.
+#include "batch/batch_text.h"
+#include "batch/report_blocks.h"
+#include "cli/batch_lines.h"
+#include "cli/commands.h"
+#include "cli/delivery.h"
+#include "cli/request_files.h"
+#include "cli/session.h"
+#include "cli/tables.h"
+#include "model_bridge/exchange.h"
+#include "platform/whole_file.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <vector>
+
+namespace arbolith::console {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kUnusable = "the results can't be used";
+
+class BatchJob {
+public:
+    BatchJob(const Request& request, Terminal& terminal)
+        : request_(request),
+          terminal_(terminal),
+          session_(terminal, ModelFolder(request)),
+          batch_(session_.Forms().GetBatch()),
+          panel_(batch_.panel) {
+        session_.host.progress = [this] {
+            return panel_.TotalProg.Value() / panel_.TotalProg.Max();
+        };
+    }
+
+    ExitStatus Do() {
+        Read();
+        JudgeTheLines();
+        ChooseReport();
+        Run();
+        std::vector<CsvStand> stands;
+        session_.Do([&] { stands = TablesOf(batch_); });
+        terminal_.ClearProgress();
+        Deliver(format_ == Format::kCsv ? CsvText(stands) : ReadWholeFile(WorkReport()), output_);
+        TellMissing(stands);
+        return isIncomplete_ ? ExitStatus::kIncomplete : ExitStatus::kOk;
+    }
+
+private:
+    std::string WorkReport() const { return session_.Folder().PathOf("report"); }
+
+    [[noreturn]] void Refuse(ExitStatus status, const std::string& reason) const {
+        throw Failure{status, request_.file + ": " + reason};
+    }
+    void Tell(const std::string& message) {
+        terminal_.Say(request_.file + ": " + message);
+        isIncomplete_ = true;
+    }
+
+    void Read() {
+        session_.host.CallBoxes(ExitStatus::kBadFile, request_.file);
+        session_.Do([this] { LoadBatch(batch_, request_.file); });
+    }
+
+    void JudgeTheLines() {
+        LineJudgement lines;
+        session_.Do([&] { lines = JudgeLines(batch_, request_.file); });
+        if (!lines.isRead) Refuse(ExitStatus::kBadFile, lines.reason);
+        for (const auto& line : lines.leftOut) Tell('"' + line + "\" is no stand");
+        if (lines.breaksTheBatch)
+            Refuse(ExitStatus::kBadFile, "what is no stand must not stand between the stands");
+        if (panel_.Batch_Seq.ListCount() == 0) Refuse(ExitStatus::kBadFile, "it holds no stands");
+    }
+
+    // What the request leaves open the batch file says.
+    void ChooseReport() {
+        const auto& told = panel_.batch_out.Text();
+        const bool isTold = !told.empty() && told != kNoOutputSelected;
+        output_ = request_.output.value_or(isTold ? told : kStandardOutput);
+        format_ = request_.format.value_or(FormatByName(output_));
+        if (!request_.output && isTold && FormatByName(output_) != format_)
+            output_ = fs::path(output_).replace_extension(ExtensionOf(format_)).string();
+        RequireOther(output_, request_.file);
+        if (format_ == Format::kText) RequireShortLabels();
+    }
+
+    void RequireShortLabels() const {
+        for (int i = 0; i < panel_.Batch_Seq.ListCount(); ++i) {
+            const auto plot = SequenceFields(EntryAt(batch_.SeqLines, i))[SequenceField::kPlot];
+            if (plot.size() > kPlotHead.size())
+                Refuse(ExitStatus::kRefused, "the plot label \"" + plot + "\" is longer than the " +
+                                                 std::to_string(kPlotHead.size()) +
+                                                 " characters of a text report");
+        }
+    }
+
+    // The tables of a CSV report are taken from the results; the page is then only the one of the
+    // reports that takes every plot label.
+    void Run() {
+        session_.host.CallBoxes(ExitStatus::kModel, kUnusable);
+        try {
+            session_.Do([this] {
+                panel_.batchHTML.SetValue(format_ != Format::kText);
+                panel_.batch_out.SetText(WorkReport());
+                StartBatch(batch_);
+            });
+        } catch (const Failure& failure) {
+            if (failure.message.starts_with(kUnusable)) {
+                RequireResult("S", "Softwood", kSoftwoodOutputName);
+                RequireResult("H", "Hardwood", kHardwoodOutputName);
+            }
+            throw;
+        }
+    }
+
+    // That a model has written nothing is better told than what came of it.
+    void RequireResult(std::string_view letter, const char* wood, const char* outputName) const {
+        const auto& woods = batch_.SeqWoods;
+        const bool isCalled = std::find(woods.begin(), woods.end(), letter) != woods.end();
+        if (isCalled && !fs::exists(session_.Folder().PathOf(outputName)))
+            throw Failure{ExitStatus::kModel, ModelFileName(wood) + std::string(" left no result")};
+    }
+
+    void TellMissing(const std::vector<CsvStand>& stands) {
+        for (const auto& stand : stands)
+            if (stand.rows.empty()) Tell("the stand of plot " + stand.plot + " has no result");
+    }
+
+    const Request& request_;
+    Terminal& terminal_;
+    Session session_;
+    Batch& batch_;
+    BatchPanel& panel_;
+    Format format_ = Format::kText;
+    std::string output_;
+    bool isIncomplete_ = false;
+};
+
+}  // namespace
+
+ExitStatus RunBatchFile(const Request& request, Terminal& terminal) {
+    RequireReadable(request.file);
+    return BatchJob(request, terminal).Do();
+}
+
+}  // namespace arbolith::console

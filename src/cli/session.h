@@ -1,0 +1,39 @@
+// The forms' program without windows, in a work folder of its own.
+#pragma once
+
+#include "cli/console_host.h"
+#include "cli/work_folder.h"
+#include "forms/user_actions.h"
+#include "shell/program.h"
+
+#include <string>
+
+namespace arbolith::console {
+
+class Session {
+public:
+    /// `modelFolder` is where the models lie. Throws a Failure where it can't be used.
+    Session(Terminal& terminal, const std::string& modelFolder);
+
+    /// Does something as an event of the program. Throws the failure that it led to, or
+    /// Interrupted.
+    template <class Work>
+    void Do(Work work) {
+        application_.Enter(work);
+        host.ThrowFailure();
+    }
+
+    Program& Forms() { return program_; }
+    UserActions& Person() { return person_; }
+    const WorkFolder& Folder() const { return folder_; }
+
+    ConsoleHost host;
+
+private:
+    WorkFolder folder_;
+    Application application_;
+    Program program_;
+    UserActions person_;
+};
+
+}  // namespace arbolith::console
