@@ -133,6 +133,12 @@ OpenResult QtHost::Open(const std::string& address) {
     return OpenByDesktop(address);
 }
 
+void QtHost::ShowHelp(const std::string& file) {
+    Open(file);
+}
+
+void QtHost::CloseHelp() {}
+
 std::unique_ptr<Process> QtHost::Start(const ProgramStart& start) {
     auto process = StartProcess(start);
     if (process == nullptr) return nullptr;
