@@ -4,8 +4,7 @@
 #include "generator/html.h"
 #include "platform/headless_host.h"
 #include "platform/version.h"
-#include "results/output.h"
-#include "run_definition/main_form.h"
+#include "shell/program.h"
 
 #include <memory>
 
@@ -16,10 +15,20 @@ namespace {
 /// The program's forms as they are when they are made.
 class Forms {
 public:
+    Forms() {
+        auto& windows = program_.Results();
+        windows.output.Get();
+        windows.chart.Get();
+        windows.chartOptions.Get();
+        windows.customChart.Get();
+        windows.definitions.Get();
+    }
+
     /// Throws BadPage where there is no such control.
-    const Control& Find(const std::string& name) const {
+    const Control& Find(const std::string& name) {
         const auto point = name.find('.');
-        const auto form = point == std::string::npos ? main_.Name() : name.substr(0, point);
+        const auto form =
+            point == std::string::npos ? program_.Run().form.Name() : name.substr(0, point);
         for (const Form* each : application_.Forms()) {
             if (each->Name() != form) continue;
             if (const Control* control = each->Find(name.substr(point + 1))) return *control;
@@ -30,8 +39,7 @@ public:
 private:
     HeadlessHost host_;
     Application application_{host_, "", ""};
-    MainForm main_{application_};
-    OutputForm output_{application_};
+    Program program_{application_};
 };
 
 // As a person reads it: no mark of the access key, no colon and no blanks at the end.
@@ -71,7 +79,7 @@ std::string SizeOf(const Control& control) {
 }  // namespace
 
 void AddCaptionFacts(Facts& facts) {
-    const auto forms = std::make_shared<const Forms>();
+    const auto forms = std::make_shared<Forms>();
     const auto about = [forms](std::string (*tell)(const Control&)) {
         return [forms, tell](const Words& words, const Page&) {
             return tell(forms->Find(WordAt(words, 0)));

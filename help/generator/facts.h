@@ -19,6 +19,15 @@ void AddLimitFacts(Facts& facts);
 /// `species WOOD`, `classes WOOD` and `site-index WOOD` are tables; WOOD is softwood or hardwood.
 void AddSiteFacts(Facts& facts);
 
+/// `variables` is the table of the result variables, `definitions` what each means;
+/// `site-definition NAME` what Land Capability or Site Index means.
+void AddVariableFacts(Facts& facts);
+
+/// `new-batch-file` shows a batch file as the program makes it, `batch-fields` is the table of a
+/// sequence's fields with two examples; `most-sequences` and `plot-width` are limits;
+/// `console-help` is what the console program says of itself.
+void AddBatchFacts(Facts& facts);
+
 /// `heights WOOD` shows the height curves of all species of a wood, each with its tables;
 /// `plantations` compares a plantation of Norway spruce with one of a native spruce.
 void AddGrowthFacts(Facts& facts);

@@ -77,6 +77,8 @@ Facts MakeFacts(const fs::path& source) {
     AddCaptionFacts(facts);
     AddLimitFacts(facts);
     AddSiteFacts(facts);
+    AddVariableFacts(facts);
+    AddBatchFacts(facts);
     AddGrowthFacts(facts);
     AddPictureFacts(facts, (source / "pictures").string());
     return facts;
