@@ -12,11 +12,7 @@ namespace arbolith {
 namespace {
 
 constexpr std::int16_t kNotSet = -1;
-constexpr std::int16_t kFirstAge = 1;
-constexpr std::int16_t kLastAge = 119;
-constexpr double kDbhBelow = 50;  // in both unit systems
 constexpr int kYearsOfARow = 5;
-constexpr std::int16_t kYearsBetweenTreatments = 5;
 
 // When the treatments are to happen.
 struct TreatmentTimes {
@@ -106,8 +102,8 @@ TreatmentTimes ReadTimes(const RunDefinition& run) {
 }
 
 bool NeedsModel(const TreatmentTimes& times) {
-    if (times.firstAge != kNotSet) return times.firstAge >= kFirstAge && times.firstAge <= kLastAge;
-    if (times.firstDbh != kNotSet) return times.firstDbh > 0 && times.firstDbh < kDbhBelow;
+    if (times.firstAge != kNotSet) return kProbeAge.Holds(times.firstAge);
+    if (times.firstDbh != kNotSet) return times.firstDbh > 0 && times.firstDbh < kProbeDbhBelow;
     return false;
 }
 

@@ -22,6 +22,8 @@ public:
     std::shared_ptr<const Drawing> ClipboardPicture() override { return picture_; }
     void Print(const Drawing&) override;
     OpenResult Open(const std::string&) override { return OpenResult::kNoOpener; }
+    void ShowHelp(const std::string&) override {}
+    void CloseHelp() override {}
     std::unique_ptr<Process> Start(const ProgramStart& start) override;
     void WaitForEnd(Process& process, const std::function<bool()>& giveUp) override;
     Size ScreenSize() override { return screen_; }

@@ -75,8 +75,7 @@ public:
     virtual void SetClipboardText(const std::string& text) = 0;
     virtual std::string ClipboardText() = 0;
     /// The clipboard then holds both, each for whoever asks for its kind.
-    virtual void SetClipboard(const std::string& text,
-                              std::shared_ptr<const Drawing> picture) = 0;
+    virtual void SetClipboard(const std::string& text, std::shared_ptr<const Drawing> picture) = 0;
     /// The picture that this program put on the clipboard; null when it holds none of its own.
     virtual std::shared_ptr<const Drawing> ClipboardPicture() = 0;
 
@@ -86,6 +85,13 @@ public:
 
     /// Hands an address or a file to the desktop's own program for it and doesn't wait.
     virtual OpenResult Open(const std::string& address) = 0;
+
+    /// Shows a compiled help file without waiting: in the desktop's own viewer or, where it has
+    /// none, in a window of the host's over the same pages. Tells nobody when there is nothing to
+    /// show.
+    virtual void ShowHelp(const std::string& file) = 0;
+    /// Closes the help windows of its own.
+    virtual void CloseHelp() = 0;
 
     /// Starts a program; null where it can't be started.
     virtual std::unique_ptr<Process> Start(const ProgramStart& start) = 0;

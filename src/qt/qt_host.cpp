@@ -1,6 +1,8 @@
 #include "qt/qt_host.h"
 
 #include "qt/file_dialog.h"
+#include "qt/help_viewer.h"
+#include "qt/help_window.h"
 #include "qt/opener.h"
 #include "qt/printing.h"
 #include "qt/qt_drawing.h"
@@ -11,8 +13,10 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QMimeData>
@@ -24,6 +28,9 @@
 namespace arbolith {
 
 namespace {
+
+// Where the pages lie, beside the compiled help that is made from them.
+constexpr const char* kHelpFolder = "help";
 
 // A started program that knows its name, so that a wait can tell it.
 class NamedProcess : public Process {
@@ -68,6 +75,9 @@ private:
 };
 
 }  // namespace
+
+QtHost::QtHost() = default;
+QtHost::~QtHost() = default;
 
 bool QtHost::ShowBox(const Box& box) {
     QMessageBox message(QApplication::activeWindow());
@@ -132,6 +142,22 @@ void QtHost::Print(const Drawing& picture) {
 
 OpenResult QtHost::Open(const std::string& address) {
     return OpenByDesktop(address);
+}
+
+void QtHost::ShowHelp(const std::string& file) {
+    const QFileInfo compiled(QFile::decodeName(file.c_str()));
+    if (compiled.exists() && DesktopHasHelpViewer() && Open(file) == OpenResult::kOpened) return;
+    if (help_ == nullptr) {
+        help_ = std::make_unique<HelpWindow>(compiled.dir().filePath(kHelpFolder));
+        help_->onOtherLink = [this](const QString& address) {
+            Open(QFile::encodeName(address).toStdString());
+        };
+    }
+    if (help_->HasPages()) help_->ShowFirstPage();
+}
+
+void QtHost::CloseHelp() {
+    help_.reset();
 }
 
 std::unique_ptr<Process> QtHost::Start(const ProgramStart& start) {

@@ -7,10 +7,14 @@ class QDialog;
 
 namespace arbolith {
 
+class HelpWindow;
 class WindowManager;
 
 class QtHost : public Host {
 public:
+    QtHost();
+    ~QtHost() override;
+
     /// The windows that are to show the states whenever something is shown or waited for; null for
     /// none. They must be taken away before they end.
     void SetWindows(WindowManager* windows) { windows_ = windows; }
@@ -25,6 +29,8 @@ public:
     std::shared_ptr<const Drawing> ClipboardPicture() override;
     void Print(const Drawing& picture) override;
     OpenResult Open(const std::string& address) override;
+    void ShowHelp(const std::string& file) override;
+    void CloseHelp() override;
     std::unique_ptr<Process> Start(const ProgramStart& start) override;
     void WaitForEnd(Process& process, const std::function<bool()>& giveUp) override;
     Size ScreenSize() override;
@@ -35,6 +41,7 @@ private:
     int Show(QDialog& dialog);
 
     WindowManager* windows_ = nullptr;
+    std::unique_ptr<HelpWindow> help_;  ///< Our own; null until it is needed.
     bool ended_ = false;
 };
 

@@ -59,4 +59,11 @@ inline constexpr Range kStockingPercent = {1, 100};
 inline constexpr Range kRotationAge = {20, 120};        ///< Years.
 inline constexpr Range kBasalAreaReduction = {10, 60};  ///< Per cent.
 
+/// Times of treatment 1 that the treatment probe asks the model about: an age in years, or a
+/// diameter above 0 and below this in both unit systems.
+inline constexpr Range kProbeAge = {1, 119};
+inline constexpr double kProbeDbhBelow = 50;
+/// Treatment 2 comes at least so many years after treatment 1.
+inline constexpr int kYearsBetweenTreatments = 5;
+
 }  // namespace arbolith

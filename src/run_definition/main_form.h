@@ -28,7 +28,7 @@ struct MainForm : Form {
     MenuItem Batch_Mnu{Run_Mnu, "Batch_Mnu", "&Batch Run"};
     MenuItem Adv_Mode{Run_Mnu, "Adv_Mode", "Advanced User"};
     MenuItem HelpMain{*this, "HelpMain", "&Help"};
-    MenuItem Help{HelpMain, "Help", "&Contents..."};
+    MenuItem Help{HelpMain, "Help", "&Contents...", "F1"};
     MenuItem Help_Separator{HelpMain, "Help_Separator", "-"};
     MenuItem Definitions_Mnu{HelpMain, "Definitions_Mnu", "&Definitions..."};
 

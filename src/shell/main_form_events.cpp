@@ -5,6 +5,7 @@
 #include "run_definition/reset.h"
 #include "run_definition/step_engine.h"
 #include "shell/events.h"
+#include "shell/help.h"
 #include "shell/webpage.h"
 
 #include <vector>
@@ -261,16 +262,13 @@ void WireCommands(RunDefinition& run, RunCommand& command) {
     };
 }
 
-void WireHelp(MainForm& form, AtFirstUse<Definitions>& definitions) {
+void WireHelp(RunDefinition& run, AtFirstUse<Definitions>& definitions) {
+    auto& form = run.form;
+    form.Help.onClick = [&run] { ShowHelpFile(run.application); };
     form.Definitions_Mnu.onClick = [&definitions] {
         definitions.Get().ShowSiteTerms();
         definitions.Get().Open();
     };
-}
-
-// The help: its work isn't in the program yet.
-void DisableWhatIsToCome(MainForm& form) {
-    for (Control* control : std::initializer_list<Control*>{&form.Help}) control->SetEnabled(false);
 }
 
 }  // namespace
@@ -287,9 +285,8 @@ void WireMainForm(RunDefinition& run, RunCommand& command, AtFirstUse<Definition
     WireStep7(run);
     WireFocus(run);
     WireCommands(run, command);
-    WireHelp(run.form, definitions);
+    WireHelp(run, definitions);
     run.form.onResize = [&run, &resize] { resize.ResizeForm(run.form); };
-    DisableWhatIsToCome(run.form);
 }
 
 }  // namespace arbolith

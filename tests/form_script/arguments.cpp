@@ -14,7 +14,8 @@ namespace arbolith {
 
 const char* const kUsage =
     "usage: form_script [--window] --folder DIR [--command-line TEXT] [--screen WxH]\n"
-    "                   [--date YYYY-MM-DD] [--keep-going] [--picture FILE] SCRIPT\n";
+    "                   [--date YYYY-MM-DD] [--keep-going] [--picture FILE [--picture-of NAME]]\n"
+    "                   SCRIPT\n";
 
 namespace {
 
@@ -72,6 +73,7 @@ Arguments ReadArguments(const std::vector<std::string>& words) {
         {"--screen", [&](const std::string& text) { arguments.screen = ReadScreen(text); }},
         {"--date", [&](const std::string& text) { arguments.date = ReadDate(text); }},
         {"--picture", [&](const std::string& text) { arguments.picture = Absolute(text); }},
+        {"--picture-of", [&](const std::string& text) { arguments.pictureOf = text; }},
     };
     for (std::size_t i = 0; i < words.size(); ++i) {
         const auto& word = words[i];

@@ -22,7 +22,8 @@ struct Arguments {
     std::string commandLine;
     std::optional<Size> screen;  ///< In twips.
     std::optional<Date> date;    ///< What is today in the run; nothing for the real day.
-    std::string picture;  ///< Where to save pictures when the script is over; empty for none.
+    std::string picture;    ///< Where to save pictures when the script is over; empty for none.
+    std::string pictureOf;  ///< The one control or form to picture; empty for all windows.
     bool window = false;
     bool keepGoing = false;
 };

@@ -36,6 +36,9 @@ public:
     /// Saves pictures of the visible windows: the one shown last under `path`, each other with a
     /// minus and its form's name before the ending. Throws ActionRefused where nothing is drawn.
     virtual void SavePictures(const std::string& path) = 0;
+    /// Saves a picture of one control, or of a form, that is showing. Throws ActionRefused for
+    /// another, and where nothing is drawn.
+    virtual void SavePictureOf(const Control& control, const std::string& path) = 0;
 };
 
 }  // namespace arbolith

@@ -30,11 +30,14 @@ public:
     std::optional<std::string> Shown(const Control&, const std::string&) override {
         return std::nullopt;
     }
-    void SavePictures(const std::string&) override {
+    void SavePictures(const std::string&) override { RefusePictures(); }
+    void SavePictureOf(const Control&, const std::string&) override { RefusePictures(); }
+
+private:
+    [[noreturn]] static void RefusePictures() {
         throw ActionRefused("nothing is drawn without windows");
     }
 
-private:
     UserActions actions_;
 };
 

@@ -1,7 +1,7 @@
 // form_script: drives the program's forms as a script tells and checks what must be seen.
 #include "form_script/headless_driver.h"
-#include "platform/headless_host.h"
 #include "form_script/session.h"
+#include "platform/headless_host.h"
 
 #include <iostream>
 

@@ -33,6 +33,8 @@ public:
     std::shared_ptr<const Drawing> ClipboardPicture() override { return picture_; }
     void Print(const Drawing& picture) override;
     OpenResult Open(const std::string& address) override;
+    void ShowHelp(const std::string& file) override { Open(file); }
+    void CloseHelp() override {}
     std::unique_ptr<Process> Start(const ProgramStart& start) override;
     void WaitForEnd(Process& process, const std::function<bool()>& giveUp) override;
     Size ScreenSize() override;

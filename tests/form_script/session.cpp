@@ -2,6 +2,7 @@
 
 #include "form_script/file_bytes.h"
 #include "form_script/interpreter.h"
+#include "form_script/lookup.h"
 #include "form_script/variables.h"
 #include "platform/version.h"
 
@@ -17,6 +18,14 @@ constexpr int kFirstLine = 1;
 void StartProgram(Program& program, const CompiledScript& script, Driver& driver) {
     program.Start();
     if (!script.beginsWithSplash) driver.Tick(program.GetSplash().Timer1);
+}
+
+void SavePictures(const Stage& stage, const Arguments& arguments) {
+    if (arguments.pictureOf.empty()) {
+        stage.driver.SavePictures(arguments.picture);
+    } else {
+        stage.driver.SavePictureOf(Find(stage, arguments.pictureOf), arguments.picture);
+    }
 }
 
 }  // namespace
@@ -49,7 +58,7 @@ ExitStatus RunSession(const Arguments& arguments, const CompiledScript& script, 
     interpreter.Finish();
     if (!arguments.picture.empty())
         interpreter.Attempt(kFirstLine, "pictures of the windows at the end",
-                            [&] { driver->SavePictures(arguments.picture); });
+                            [&] { SavePictures(stage, arguments); });
     return interpreter.Held() ? ExitStatus::kHeld : ExitStatus::kFailed;
 }
 

@@ -181,19 +181,30 @@ public:
     void SavePictures(const std::string& path) override {
         const auto open = windows_.OpenWindows();
         if (open.empty()) throw ActionRefused("no window is open");
-        for (const FormWindow* window : open) {
+        for (FormWindow* window : open) {
             const std::filesystem::path main(path);
             auto file = main;
             if (window != open.back())
                 file.replace_filename(main.stem().string() + "-" + window->GetForm().Name() +
                                       main.extension().string());
-            if (!const_cast<FormWindow*>(window)->grab().save(
-                    QString::fromStdString(file.string())))
-                throw ActionRefused("can't write " + file.string());
+            SavePart(*window, window->rect(), file.string());
         }
+    }
+    void SavePictureOf(const Control& control, const std::string& path) override {
+        FormWindow* window = windows_.WindowOf(control.Owner());
+        const View* view = window == nullptr ? nullptr : window->ViewOf(control);
+        const bool isForm = &control == &control.Owner();
+        if (!control.Showing() || (view == nullptr && !isForm))
+            throw ActionRefused(control.Name() + " is not showing");
+        const QWidget* widget = isForm ? window : view->Widget();
+        SavePart(*window, {widget->mapTo(window, QPoint()), widget->size()}, path);
     }
 
 private:
+    static void SavePart(FormWindow& window, const QRect& part, const std::string& path) {
+        if (!window.grab(part).save(QString::fromStdString(path)))
+            throw ActionRefused("can't write " + path);
+    }
     void RequireUsable(const Control& control) const {
         if (application_.HasEnded()) throw ActionRefused("the program has ended");
         if (!control.Showing()) throw ActionRefused(control.Name() + " is not showing");

@@ -66,6 +66,7 @@ TEST_F(ArgumentsTest, KnowTheirFlags) {
     EXPECT_TRUE(Read({"--window"}).window);
     EXPECT_TRUE(Read({"--keep-going"}).keepGoing);
     EXPECT_EQ(Read({"--picture", "/a/b.png"}).picture, "/a/b.png");
+    EXPECT_EQ(Read({"--picture-of", "Output.Table"}).pictureOf, "Output.Table");
 }
 
 TEST_F(ArgumentsTest, RefuseWhatTheyDoNotKnow) {

@@ -1,0 +1,45 @@
+// The help file: where it is looked for, and that nothing is said.
+#include "shell/help.h"
+
+#include "forms/application.h"
+#include "platform/headless_host.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace arbolith {
+namespace {
+
+class HelpHost : public HeadlessHost {
+public:
+    bool ShowBox(const Box&) override {
+        ++boxes;
+        return true;
+    }
+    void ShowHelp(const std::string& file) override { shown.push_back(file); }
+    void CloseHelp() override { shown.clear(); }
+
+    std::vector<std::string> shown;
+    int boxes = 0;
+};
+
+TEST(HelpTest, TheHelpFileLiesBesideTheProgram) {
+    HelpHost host;
+    Application application(host, "/opt/forest", "");
+    ShowHelpFile(application);
+    EXPECT_EQ(host.shown, std::vector<std::string>{"/opt/forest/qvlhelp.chm"});
+    EXPECT_EQ(host.boxes, 0);
+}
+
+TEST(HelpTest, ClosesWhatItOpened) {
+    HelpHost host;
+    Application application(host, "/opt/forest", "");
+    ShowHelpFile(application);
+    ShowHelpFile(application);
+    CloseAllHelp(application);
+    EXPECT_TRUE(host.shown.empty());
+}
+
+}  // namespace
+}  // namespace arbolith
