@@ -75,7 +75,7 @@ public:
     using Paint = void (DrawnChart::*)(QPainter&) const;
 
     Layer(DrawnChart& chart, double z, Paint draw)
-        : QGraphicsItem(&chart), chart_(chart), paint_(draw) {
+        : QGraphicsItem(&chart), chart_(chart), painting_(draw) {
         setZValue(z);
         setAcceptedMouseButtons(Qt::NoButton);
     }
@@ -90,7 +90,7 @@ public:
 
 private:
     DrawnChart& chart_;
-    Painting painting_;
+    Paint painting_;
 };
 
 DrawnChart::DrawnChart(double textFactor)

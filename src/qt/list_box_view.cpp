@@ -64,7 +64,7 @@ public:
         setEditTriggers(NoEditTriggers);
         setModel(rows_);
         const auto& columns = list.GetLook().columns;
-        if (!columns.empty()) setItemDelegate(new RowsInColumns(columns, window.GetScale(), this));
+        if (!columns.empty()) setItemDelegate(new RowsInColumns(columns, *this));
     }
 
     void Refresh() override {

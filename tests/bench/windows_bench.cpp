@@ -1,6 +1,6 @@
 // What the windows add: a run up to the painted table, the processor time of waiting while a timer
-// fires, the start up to the splash, the memory of the main form, and a redraw of the chart.
-// --check turns the limits into the exit code.
+// fires, the start up to the splash, the memory of the main form, a redraw of the chart, and the
+// reading of a batch. --check turns the limits into the exit code.
 #include "bench/application_folder.h"
 #include "bench/bare_exchange.h"
 #include "bench/chart_redraw.h"
