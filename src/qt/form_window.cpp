@@ -49,7 +49,8 @@ FormWindow::FormWindow(Form& form, WindowManager& manager)
     : QWidget(nullptr, FlagsOf(form)),
       form_(form),
       manager_(manager),
-      scale_(Scale::For(form, font())),
+      normalScale_(Scale::For(form, font())),
+      scale_(normalScale_),
       inside_(new QWidget(this)) {
     setObjectName(ObjectNameOf(form));
     Build();
@@ -158,7 +159,7 @@ void FormWindow::RefreshTopmost() {
 // is that share of it, and all else grows with the window anyway.
 void FormWindow::RefreshScale() {
     const bool isMaximised = form_.State() == WindowState::kMaximised;
-    const Scale wanted = isMaximised ? Scale() : Scale::For(form_, font());
+    const Scale wanted = isMaximised ? Scale() : normalScale_;
     if (wanted == scale_) return;
     scale_ = wanted;
     RefreshViews();
@@ -288,6 +289,7 @@ void FormWindow::changeEvent(QEvent* event) {
 
 void FormWindow::FollowFont() {
     if (gone_) return;
+    normalScale_ = Scale::For(form_, font());
     manager_.WhileFlushing([this] {
         RefreshViews();
         RefreshForm();

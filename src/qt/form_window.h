@@ -81,6 +81,8 @@ private:
 
     Form& form_;
     WindowManager& manager_;
+    /// Fits the font to the layout as it was when the font was last looked at.
+    Scale normalScale_;
     Scale scale_;
     QMenuBar* menuBar_ = nullptr;
     QWidget* inside_;
