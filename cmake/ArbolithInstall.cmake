@@ -6,9 +6,12 @@
 # Everything that is installed, and nothing else: what ./run and tools/package build.
 add_custom_target(programs)
 
+add_dependencies(programs arbolith-cli swqvl hwqvl)
+install(TARGETS arbolith-cli swqvl hwqvl RUNTIME DESTINATION .)
+install(FILES docs/man/arbolith-cli.1 DESTINATION man)
 if(TARGET arbolith)
-  add_dependencies(programs arbolith notepad swqvl hwqvl)
-  install(TARGETS arbolith notepad swqvl hwqvl RUNTIME DESTINATION .)
+  add_dependencies(programs arbolith notepad)
+  install(TARGETS arbolith notepad RUNTIME DESTINATION .)
   install(FILES README.md LICENSE CHANGELOG.md DESTINATION .)
   if(EXISTS ${CMAKE_SOURCE_DIR}/docs/open-models.md)
     install(FILES docs/open-models.md DESTINATION docs)

@@ -11,8 +11,7 @@ Session::Session(Terminal& terminal, const std::string& modelFolder)
     host.onInterrupt = [this] { application_.End(); };
     program_.Start();
     // A click on the splash brings the main form up.
-    person_.Click(program_.GetSplash().Picture1);
-    host.ThrowFailure();
+    Click(program_.GetSplash().Picture1);
 }
 
 }  // namespace arbolith::console

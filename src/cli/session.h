@@ -23,8 +23,13 @@ public:
         host.ThrowFailure();
     }
 
+    /// The same for a click of a person.
+    void Click(Control& control) {
+        person_.Click(control);
+        host.ThrowFailure();
+    }
+
     Program& Forms() { return program_; }
-    UserActions& Person() { return person_; }
     const WorkFolder& Folder() const { return folder_; }
 
     ConsoleHost host;

@@ -1,0 +1,120 @@
+#include "console/console_run.h"
+
+#include <filesystem>
+
+namespace arbolith {
+
+namespace fs = std::filesystem;
+
+class Models : public ConsoleTest {
+public:
+    Models() {
+        work.Write("stand.qvn", StandLines().Text());
+        work.Write("stands.qvb", BatchText({SequenceLine("1", "S"), SequenceLine("2", "H")}));
+    }
+    Ended RunStand() const { return Run({"run", "stand.qvn"}); }
+    Ended RunBatch() const { return Run({"batch", "stands.qvb", "--output", "-"}); }
+};
+
+TEST_F(Models, AMissingOneIsTold) {
+    fs::remove(models.PathOf("SWQVL.exe"));
+    for (const auto& ended : {RunStand(), RunBatch()}) {
+        EXPECT_EQ(ended.status, 5);
+        EXPECT_EQ(ended.output, "");
+        EXPECT_EQ(ended.errors, "arbolith-cli: SWQVL.exe: No such file or directory\n");
+    }
+    EXPECT_TRUE(LeftNothingBehind());
+}
+
+TEST_F(Models, OneThatIsNotNeededMayBeMissing) {
+    fs::remove(models.PathOf("HWQVL.exe"));
+    EXPECT_EQ(RunStand().status, 0);
+}
+
+TEST_F(Models, OneThatIsNoProgramIsTold) {
+    fs::remove(models.PathOf("SWQVL.exe"));
+    models.Write("SWQVL.exe", "no program");
+    EXPECT_EQ(RunStand().errors, "arbolith-cli: SWQVL.exe: Permission denied\n");
+}
+
+TEST_F(Models, OneThatWritesNothingIsTold) {
+    ReplaceModels("exit 0");
+    const auto stand = RunStand();
+    EXPECT_EQ(stand.status, 5);
+    EXPECT_TRUE(stand.errors.starts_with("arbolith-cli: SWQVL.exe left no result")) << stand.errors;
+    const auto batch = RunBatch();
+    EXPECT_EQ(batch.status, 5);
+    EXPECT_EQ(batch.errors, "arbolith-cli: SWQVL.exe left no result\n");
+}
+
+TEST_F(Models, OneThatCrashesIsTold) {
+    ReplaceModels("kill -SEGV $$");
+    for (const auto& ended : {RunStand(), RunBatch()}) {
+        EXPECT_EQ(ended.status, 5);
+        EXPECT_EQ(ended.errors, "arbolith-cli: SWQVL.exe: it was ended by signal 11\n");
+    }
+}
+
+TEST_F(Models, OneThatWritesGarbageIsTold) {
+    ReplaceModels(
+        "printf 'no numbers, but a text\\r\\n' > _OUTPUT.TMP; cp _OUTPUT.TMP _SOFTOUT.TMP");
+    const auto stand = RunStand();
+    EXPECT_EQ(stand.status, 5);
+    EXPECT_EQ(stand.errors, "arbolith-cli: SWQVL.exe left a result that can't be used\n");
+    EXPECT_EQ(RunBatch().status, 5);
+}
+
+// The probes before the run leave results, too.
+TEST_F(Models, AnEarlierResultIsNeverTakenForANewOne) {
+    StandLines thinned;
+    thinned.treatments = "60,0,0.0,0.0,30,0,0.0";
+    work.Write("stand.qvn", thinned.Text());
+    EXPECT_EQ(RunStand().status, 0);
+    ReplaceModels("calls=\"" + models.Path() +
+                  "/.calls\"; echo x >> \"$calls\"; if [ $(/usr/bin/wc "
+                  "-l < \"$calls\") -lt 5 ]; then exec \"" +
+                  std::string(SOFTWOOD_PROGRAM) + "\"; fi");
+    const auto ended = RunStand();
+    EXPECT_EQ(ended.status, 5) << ended.output;
+    EXPECT_TRUE(ended.errors.starts_with("arbolith-cli: SWQVL.exe left no result"));
+}
+
+TEST_F(Models, TheirFolderStaysAsItIs) {
+    models.Write("_OUTPUT.TMP", "of another run");
+    EXPECT_EQ(RunStand().status, 0);
+    EXPECT_EQ(RunBatch().status, 0);
+    EXPECT_EQ(models.Read("_OUTPUT.TMP"), "of another run");
+    EXPECT_EQ(std::distance(fs::directory_iterator(models.Path()), {}), 3);
+}
+
+TEST_F(Models, FilesBesideThemAreInReach) {
+    models.Write("table.txt", "7.25");
+    ReplaceModels("read years < table.txt; printf '%s\\r\\n' $years > _OUTPUT.TMP");
+    const auto ended = RunStand();
+    EXPECT_EQ(ended.status, 0) << ended.errors;
+    EXPECT_NE(ended.output.find("7.25 Years from Stump"), std::string::npos);
+}
+
+TEST_F(Models, RunsAtTheSameTimeDontDisturbEachOther) {
+    std::vector<pid_t> processes;
+    std::vector<std::string> alone;
+    for (int i = 0; i < 6; ++i) {
+        StandLines stand;
+        stand.site = "0.0," + std::to_string(4 + i);
+        const auto name = "stand" + std::to_string(i) + ".qvn";
+        work.Write(name, stand.Text());
+        alone.push_back(Run({"run", name}).output);
+    }
+    processes.reserve(alone.size());
+    for (std::size_t i = 0; i < alone.size(); ++i) {
+        const auto number = std::to_string(i);
+        processes.push_back(Start({"run", "stand" + number + ".qvn"}, number));
+    }
+    for (std::size_t i = 0; i < alone.size(); ++i) {
+        const auto ended = WaitFor(processes[i], std::to_string(i));
+        EXPECT_EQ(ended.status, 0) << ended.errors;
+        EXPECT_EQ(ended.output, alone[i]);
+    }
+}
+
+}  // namespace arbolith
