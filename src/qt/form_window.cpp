@@ -46,12 +46,7 @@ bool ComesByItself(Qt::FocusReason reason) {
 }  // namespace
 
 FormWindow::FormWindow(Form& form, WindowManager& manager)
-    : QWidget(nullptr, FlagsOf(form)),
-      form_(form),
-      manager_(manager),
-      normalScale_(Scale::For(form, font())),
-      scale_(normalScale_),
-      inside_(new QWidget(this)) {
+    : QWidget(nullptr, FlagsOf(form)), form_(form), manager_(manager), inside_(new QWidget(this)) {
     setObjectName(ObjectNameOf(form));
     Build();
 }
@@ -65,6 +60,8 @@ bool FormWindow::HasManualTimers() const {
 void FormWindow::Build() {
     views_.reserve(form_.Controls().size());
     for (Control* control : form_.Controls()) AddView(*control);
+    // The menu bar, which takes its part of the window, stands by now.
+    scale_ = normalScale_ = FittingScale();
     RefreshViews();
 }
 
@@ -172,13 +169,29 @@ void FormWindow::RefreshState() {
 }
 
 // A window that would not fit on the screen opens smaller, and the form learns of it.
+QSize FormWindow::RoomOnScreen() const {
+    const QSize title(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    return screen()->availableGeometry().size() - title;
+}
+
+// A window that would not fit on the screen is shown smaller, down to its told places: then the
+// form needn't be told another size.
+Scale FormWindow::FittingScale() const {
+    const Scale wanted = Scale::For(form_, font());
+    const QSize told = wanted.Pixels(form_.ClientSize());
+    const QSize room = RoomOnScreen() - QSize(0, MenuHeight(told.width()));
+    if (told.isEmpty()) return wanted;
+    const double share =
+        std::min(double(room.width()) / told.width(), double(room.height()) / told.height());
+    return share >= 1 ? wanted : Scale(std::max(1.0, wanted.Factor() * share));
+}
+
 void FormWindow::RefreshSize() {
     const QSize told = scale_.Pixels(form_.ClientSize());
     const bool isNormal = StateOf(windowState()) == WindowState::kNormal;
     if (!isNormal || windowLeads_ || inside_->size() == told) return;
     const QSize wanted(told.width(), told.height() + MenuHeight(told.width()));
-    const QSize title(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    resize(wanted.boundedTo(screen()->availableGeometry().size() - title));
+    resize(wanted.boundedTo(RoomOnScreen()));
 }
 
 // The place is told for the told size: a window that is larger keeps its middle there.
@@ -289,7 +302,7 @@ void FormWindow::changeEvent(QEvent* event) {
 
 void FormWindow::FollowFont() {
     if (gone_) return;
-    normalScale_ = Scale::For(form_, font());
+    normalScale_ = FittingScale();
     manager_.WhileFlushing([this] {
         RefreshViews();
         RefreshForm();

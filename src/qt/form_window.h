@@ -72,6 +72,8 @@ private:
     void RefreshSize();
     void RefreshPosition();
     void FollowFont();
+    QSize RoomOnScreen() const;
+    Scale FittingScale() const;
     void RefreshScale();
     void RefreshViews();
     void FollowWindowState();
