@@ -45,6 +45,7 @@ constexpr std::array kExamples = {
 };
 
 std::string Code(std::string_view text) {
+    if (text == " ") return "one blank";
     return "<code>" + EscapedProgramText(text) + "</code>";
 }
 

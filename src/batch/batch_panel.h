@@ -35,9 +35,9 @@ struct BatchPanel {
     TextBox batch_out{Batch_OutputPath, "batch_out", {240, 360, 6420, 375}};
     Button outFileBtn{Batch_OutputPath, "outFileBtn", "Select File", {240, 840, 1560, 420}};
     Button viewBatBtn{Batch_OutputPath, "viewBatBtn", "View", {1920, 840, 840, 420}};
-    CheckBox batchHTML{Batch_OutputPath, "batchHTML", "HTML", {2880, 840, 840, 420}};
+    CheckBox batchHTML{Batch_OutputPath, "batchHTML", "HTML", {2880, 840, 900, 420}};
     CheckBox chkBorder{
-        Batch_OutputPath, "chkBorder", "Apply gridlines to data cells", {3720, 840, 3060, 420}};
+        Batch_OutputPath, "chkBorder", "Apply gridlines to data cells", {3780, 840, 3000, 420}};
 
     Frame Batch_Sequence{form.Batch, "Batch_Sequence", "Sequence", {120, 1920, 13920, 5400}};
     Label Label1{Batch_Sequence,

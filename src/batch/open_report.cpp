@@ -15,7 +15,7 @@ void OpenInBrowser(Application& application, const std::string& report) {
                                 BoxIcon::kExclamation);
             break;
         case OpenResult::kFailed:
-            application.ShowBox("Web page not Opened", "URL Failed", BoxIcon::kExclamation);
+            application.ShowBox("Web Page not Opened", "URL Failed", BoxIcon::kExclamation);
             break;
     }
 }

@@ -47,7 +47,7 @@ TEST_F(OpenReportTest, TellsThatTheBrowserFailed) {
     host.openResult = OpenResult::kFailed;
     OpenReport(batch);
     ASSERT_EQ(host.boxes.size(), 1u);
-    EXPECT_EQ(host.boxes[0].text, "Web page not Opened");
+    EXPECT_EQ(host.boxes[0].text, "Web Page not Opened");
     EXPECT_EQ(host.boxes[0].title, "URL Failed");
     EXPECT_EQ(host.boxes[0].icon, BoxIcon::kExclamation);
 }
