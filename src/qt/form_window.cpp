@@ -46,7 +46,11 @@ bool ComesByItself(Qt::FocusReason reason) {
 }  // namespace
 
 FormWindow::FormWindow(Form& form, WindowManager& manager)
-    : QWidget(nullptr, FlagsOf(form)), form_(form), manager_(manager), inside_(new QWidget(this)) {
+    : QWidget(nullptr, FlagsOf(form)),
+      form_(form),
+      manager_(manager),
+      scale_(Scale::For(form, font())),
+      inside_(new QWidget(this)) {
     setObjectName(ObjectNameOf(form));
     Build();
 }
@@ -60,8 +64,6 @@ bool FormWindow::HasManualTimers() const {
 void FormWindow::Build() {
     views_.reserve(form_.Controls().size());
     for (Control* control : form_.Controls()) AddView(*control);
-    // The menu bar, which takes its part of the window, stands by now.
-    scale_ = normalScale_ = FittingScale();
     RefreshViews();
 }
 
@@ -156,7 +158,7 @@ void FormWindow::RefreshTopmost() {
 // is that share of it, and all else grows with the window anyway.
 void FormWindow::RefreshScale() {
     const bool isMaximised = form_.State() == WindowState::kMaximised;
-    const Scale wanted = isMaximised ? Scale() : normalScale_;
+    const Scale wanted = isMaximised ? Scale() : Scale::For(form_, font());
     if (wanted == scale_) return;
     scale_ = wanted;
     RefreshViews();
@@ -169,29 +171,13 @@ void FormWindow::RefreshState() {
 }
 
 // A window that would not fit on the screen opens smaller, and the form learns of it.
-QSize FormWindow::RoomOnScreen() const {
-    const QSize title(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    return screen()->availableGeometry().size() - title;
-}
-
-// A window that would not fit on the screen is shown smaller, down to its told places: then the
-// form needn't be told another size.
-Scale FormWindow::FittingScale() const {
-    const Scale wanted = Scale::For(form_, font());
-    const QSize told = wanted.Pixels(form_.ClientSize());
-    const QSize room = RoomOnScreen() - QSize(0, MenuHeight(told.width()));
-    if (told.isEmpty()) return wanted;
-    const double share =
-        std::min(double(room.width()) / told.width(), double(room.height()) / told.height());
-    return share >= 1 ? wanted : Scale(std::max(1.0, wanted.Factor() * share));
-}
-
 void FormWindow::RefreshSize() {
     const QSize told = scale_.Pixels(form_.ClientSize());
     const bool isNormal = StateOf(windowState()) == WindowState::kNormal;
     if (!isNormal || windowLeads_ || inside_->size() == told) return;
     const QSize wanted(told.width(), told.height() + MenuHeight(told.width()));
-    resize(wanted.boundedTo(RoomOnScreen()));
+    const QSize title(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+    resize(wanted.boundedTo(screen()->availableGeometry().size() - title));
 }
 
 // The place is told for the told size: a window that is larger keeps its middle there.
@@ -302,7 +288,6 @@ void FormWindow::changeEvent(QEvent* event) {
 
 void FormWindow::FollowFont() {
     if (gone_) return;
-    normalScale_ = FittingScale();
     manager_.WhileFlushing([this] {
         RefreshViews();
         RefreshForm();

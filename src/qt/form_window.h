@@ -72,8 +72,6 @@ private:
     void RefreshSize();
     void RefreshPosition();
     void FollowFont();
-    QSize RoomOnScreen() const;
-    Scale FittingScale() const;
     void RefreshScale();
     void RefreshViews();
     void FollowWindowState();
@@ -83,8 +81,6 @@ private:
 
     Form& form_;
     WindowManager& manager_;
-    /// Fits the font to the layout as it was when the font was last looked at.
-    Scale normalScale_;
     Scale scale_;
     QMenuBar* menuBar_ = nullptr;
     QWidget* inside_;
