@@ -26,12 +26,12 @@ double NumberIn(std::string_view text) {
 }
 
 // The chart's data as a spreadsheet takes it: a heading line, then a line a row, tabs between the
-// cells. In front stands what the points stand over: of a scatter chart the X values, which its
-// series share, under the title of their axis, else the row labels.
+// cells. In front, under the title of the X axis, stands what the points stand over: of a scatter
+// chart the X values, which its series share, else the row labels.
 std::string DataText(const Chart& chart) {
     const bool isXy = chart.chartType() == Chart::Type::kXyScatter;
     const int step = isXy ? 2 : 1;
-    std::string text = isXy ? chart.Axis(Chart::kAxisX).Title : "";
+    std::string text = chart.Axis(Chart::kAxisX).Title;
     for (int column = step; column <= chart.ColumnCount(); column += step)
         text += '\t' + chart.ColumnLabel(column);
     for (int row = 1; row <= chart.RowCount(); ++row) {

@@ -37,7 +37,7 @@ public:
         bool bold = false;
         int points = 0;         ///< Font size, 0 for the desktop's own.
         bool link = false;      ///< Underlined, with a hand over it; keys reach it and follow it.
-        bool bordered = false;  ///< Looks like something to press.
+        bool bordered = false;  ///< Looks like a button; keys reach it and press it.
         /// The heading of a list with these columns: runs of blanks lead from one to the next.
         TextColumns columns = {};
     };
@@ -46,7 +46,7 @@ public:
     Label(Control& parent, std::string name, std::string caption, Place place, Look look);
 
     const Look& GetLook() const { return look_; }
-    bool TakesFocus() const override { return look_.link; }
+    bool TakesFocus() const override { return look_.link || look_.bordered; }
 
 private:
     Look look_;

@@ -41,7 +41,7 @@ void KeyDown(Control& control, Key key) {
 }
 
 // Whether a key acts on a control of this kind as a click does. The only labels with the focus are
-// links.
+// links and those that look like buttons.
 bool Activates(Key key, ControlKind kind) {
     switch (kind) {
         case ControlKind::kButton:
@@ -115,7 +115,7 @@ void UserActions::Approach(Control& control, bool takesFocus) {
     RequireUsable(control);
 }
 
-// Keys can walk to a link; a click follows it and leaves the focus where it is.
+// Keys can walk to a label that can be clicked; a click leaves the focus where it is.
 void UserActions::ApproachByMouse(Control& control) {
     Approach(control, control.Kind() != ControlKind::kLabel);
 }

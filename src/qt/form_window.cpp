@@ -49,8 +49,8 @@ FormWindow::FormWindow(Form& form, WindowManager& manager)
     : QWidget(nullptr, FlagsOf(form)),
       form_(form),
       manager_(manager),
-      scale_(Scale::For(form, font())),
-      inside_(new QWidget(this)) {
+      inside_(new QWidget(this)),
+      firstSize_(form.ClientSize()) {
     setObjectName(ObjectNameOf(form));
     Build();
 }
@@ -64,6 +64,7 @@ bool FormWindow::HasManualTimers() const {
 void FormWindow::Build() {
     views_.reserve(form_.Controls().size());
     for (Control* control : form_.Controls()) AddView(*control);
+    scale_ = normalScale_ = NormalScale();
     RefreshViews();
 }
 
@@ -154,11 +155,25 @@ void FormWindow::RefreshTopmost() {
     if (windowHandle() != nullptr) windowHandle()->setFlags(flags);
 }
 
+QSize FormWindow::RoomOnScreen() const {
+    const QSize available = screen()->availableGeometry().size();
+    return available - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+}
+
+// As the font wants it, but the first size is no larger than the screen has room for.
+Scale FormWindow::NormalScale() const {
+    const QSize told = Scale().Pixels(firstSize_);
+    const QSize room = RoomOnScreen() - QSize(0, MenuHeight(told.width()));
+    const double fitting =
+        std::min(double(room.width()) / told.width(), double(room.height()) / told.height());
+    return Scale(std::min(Scale::For(form_, font()).Factor(), std::max(1.0, fitting)));
+}
+
 // On a maximised form 15 twips are a pixel whatever the font: what is told as a share of the screen
 // is that share of it, and all else grows with the window anyway.
 void FormWindow::RefreshScale() {
     const bool isMaximised = form_.State() == WindowState::kMaximised;
-    const Scale wanted = isMaximised ? Scale() : Scale::For(form_, font());
+    const Scale wanted = isMaximised ? Scale() : normalScale_;
     if (wanted == scale_) return;
     scale_ = wanted;
     RefreshViews();
@@ -176,8 +191,7 @@ void FormWindow::RefreshSize() {
     const bool isNormal = StateOf(windowState()) == WindowState::kNormal;
     if (!isNormal || windowLeads_ || inside_->size() == told) return;
     const QSize wanted(told.width(), told.height() + MenuHeight(told.width()));
-    const QSize title(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    resize(wanted.boundedTo(screen()->availableGeometry().size() - title));
+    resize(wanted.boundedTo(RoomOnScreen()));
 }
 
 // The place is told for the told size: a window that is larger keeps its middle there.
@@ -288,6 +302,7 @@ void FormWindow::changeEvent(QEvent* event) {
 
 void FormWindow::FollowFont() {
     if (gone_) return;
+    normalScale_ = NormalScale();
     manager_.WhileFlushing([this] {
         RefreshViews();
         RefreshForm();

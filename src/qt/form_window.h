@@ -71,6 +71,8 @@ private:
     void RefreshState();
     void RefreshSize();
     void RefreshPosition();
+    QSize RoomOnScreen() const;
+    Scale NormalScale() const;
     void FollowFont();
     void RefreshScale();
     void RefreshViews();
@@ -86,6 +88,8 @@ private:
     QWidget* inside_;
     std::unordered_map<const Control*, View*> views_;
     std::unordered_map<const QObject*, Control*> focusTakers_;
+    Size firstSize_;
+    Scale normalScale_;  ///< While the window isn't maximised.
     Size requested_;
     Place shownPlace_;
     bool windowLeads_ = false;

@@ -41,10 +41,9 @@ public:
         setAlignment(AlignmentOf(label.GetLook()));
         setWordWrap(label.GetLook().wraps);
         if (label.GetLook().bordered) setFrameStyle(QFrame::Panel | QFrame::Raised);
+        if (label.TakesFocus()) setFocusPolicy(Qt::TabFocus);
         for (auto& column : columns_) column.behindTab = false;
-        if (!label.GetLook().link) return;
-        setCursor(Qt::PointingHandCursor);
-        setFocusPolicy(Qt::TabFocus);
+        if (label.GetLook().link) setCursor(Qt::PointingHandCursor);
     }
 
     void Refresh() override {

@@ -1,3 +1,4 @@
+#include "qt/scale.h"
 #include "window_test.h"
 
 #include <QApplication>
@@ -25,6 +26,12 @@ struct PlainForm : Form {
     TextBox second{inner, "field", {1500, 600, 1200, 375}};
     Button button{*this, "button", "&Press", {150, 3600, 1500, 375}};
     int resizes = 0;
+};
+
+// Its button is too low for a line of any font at the told size.
+struct LowForm : Form {
+    explicit LowForm(Application& application) : Form(application, "Low", "Low", {9135, 7065}) {}
+    Button button{*this, "button", "Low", {0, 0, 1500, 255}};
 };
 
 struct FormWindowTest : WindowTest {
@@ -112,16 +119,34 @@ TEST_F(FormWindowTest, TheProgramsResizeReachesTheWindowWithoutAnEcho) {
 }
 
 TEST_F(FormWindowTest, ARequestedSizeReachesTheFormExactly) {
-    struct Low : Form {
-        explicit Low(Application& application) : Form(application, "Low", "Low", {9135, 7065}) {}
-        Button button{*this, "button", "Low", {0, 0, 1500, 255}};
-    } low(application);
+    LowForm low(application);
     Open(low);
     for (int width = 9000; width < 9300; width += 15) {
         driver->Resize(low, {width, 7065});
         ASSERT_EQ(low.ClientSize().width, width);
         ASSERT_EQ(low.ClientSize().height, 7065);
     }
+}
+
+TEST_F(FormWindowTest, AFormIsScaledUpOnlyAsFarAsTheScreenGoes) {
+    LowForm low(application);
+    Open(low);
+    window_events::Settle();
+    EXPECT_LE(WindowOf(low).width(), QApplication::primaryScreen()->availableSize().width());
+    EXPECT_GE(WindowOf(low).GetScale().Factor(), 1);
+    EXPECT_EQ(low.ClientSize().width, 9135);
+    EXPECT_EQ(low.ClientSize().height, 7065);
+}
+
+TEST_F(FormWindowTest, TheScaleStaysWhateverTheControlsGrowTo) {
+    LowForm low(application);
+    Open(low);
+    const Scale before = WindowOf(low).GetScale();
+    Do([&] {
+        low.button.SetPlace({0, 0, 1500, 510});
+        low.SetCaption("High");
+    });
+    EXPECT_EQ(WindowOf(low).GetScale(), before);
 }
 
 TEST_F(FormWindowTest, TheCloseBoxAsksTheForm) {

@@ -75,6 +75,87 @@ TEST_F(ChartTest, KeepsExplicitValuesAlsoOnAnAutomaticAxis) {
     EXPECT_FALSE(chart.Axis(Chart::kAxisX).Scale.Maximum);
 }
 
+TEST_F(ChartTest, TakesTheNumberOfAText) {
+    chart.SetSize(1, 1);
+    const auto numberIn = [this](const char* text) {
+        chart.SetData(1, 1, text);
+        return chart.Data(1, 1);
+    };
+    EXPECT_EQ(numberIn("12.5"), 12.5);
+    EXPECT_EQ(numberIn("-1.5E-05"), -1.5e-5);
+    EXPECT_EQ(numberIn("7 cm"), 7);
+    EXPECT_EQ(numberIn(""), 0);
+    EXPECT_EQ(numberIn("none"), 0);
+    EXPECT_ERROR(9, chart.SetData(1, 2, "1"));
+}
+
+TEST_F(ChartTest, ReadsEndsThatAreNotToldAsTheyAreDrawn) {
+    EXPECT_EQ(chart.Minimum(Chart::kAxisX), 0);
+    EXPECT_EQ(chart.Maximum(Chart::kAxisX), 1);
+    chart.SetSize(2, 2);
+    chart.SetData(1, 1, 5);
+    chart.SetData(2, 1, 80);
+    chart.SetData(1, 2, -3);
+    chart.SetData(2, 2, 7);
+    EXPECT_EQ(chart.Minimum(Chart::kAxisX), 0);
+    EXPECT_EQ(chart.Maximum(Chart::kAxisX), 80);
+    for (const int axis : {Chart::kAxisY, Chart::kAxisSecondY}) {
+        EXPECT_EQ(chart.Minimum(axis), -4);
+        EXPECT_EQ(chart.Maximum(axis), 8);
+    }
+    chart.ChangeAxis(Chart::kAxisY, [](ChartAxis& axis) { axis.Scale.Maximum = 100; });
+    EXPECT_EQ(chart.Maximum(Chart::kAxisY), 100);
+    EXPECT_EQ(chart.Minimum(Chart::kAxisY), -4);
+    EXPECT_EQ(chart.DrawnScale(Chart::kAxisY).maximum, 8);
+    chart.ChangeAxis(Chart::kAxisY, [](ChartAxis& axis) { axis.Scale.Auto = false; });
+    EXPECT_EQ(chart.DrawnScale(Chart::kAxisY).maximum, 100);
+}
+
+TEST_F(ChartTest, StandsBarsOn0AndCountsTheirRows) {
+    chart.SetChartData({{"TDBH"}, {"90"}, {"100"}, {"95"}});
+    chart.SetChartType(Chart::Type::kBar2d);
+    EXPECT_EQ(chart.DrawnScale(Chart::kAxisY), (AxisScale{0, 100, 5, 1}));
+    EXPECT_EQ(chart.Minimum(Chart::kAxisX), 0);
+    EXPECT_GE(chart.Maximum(Chart::kAxisX), 3);
+}
+
+TEST_F(ChartTest, TakesItsDataAtOnceOnlyWhereAllRowsAreAlike) {
+    EXPECT_ERROR(5, chart.SetChartData({}));
+    EXPECT_ERROR(5, chart.SetChartData({{"a", "b"}, {"1"}}));
+}
+
+TEST_F(ChartTest, ForgetsEverythingButItsPlace) {
+    chart.SetPlace({1, 2, 3, 4});
+    chart.SetChartData({{"TDBH"}, {"90"}});
+    chart.SetChartType(Chart::Type::kBar2d);
+    chart.SetTitle({"Growth", {}, ChartLocation::kTop});
+    chart.SetLegend({.Visible = true, .Font = {}});
+    chart.ChangeAxis(Chart::kAxisX, [](ChartAxis& axis) { axis.Title = "Age"; });
+    chart.ResetToDefaults();
+    EXPECT_EQ(chart.ColumnCount(), 0);
+    EXPECT_EQ(chart.RowCount(), 0);
+    EXPECT_EQ(chart.chartType(), Chart::Type::kXyScatter);
+    EXPECT_EQ(chart.Title(), "");
+    EXPECT_FALSE(chart.LegendVisible());
+    EXPECT_EQ(chart.Axis(Chart::kAxisX), ChartAxis{});
+    EXPECT_EQ(chart.GetPlace(), (Place{1, 2, 3, 4}));
+}
+
+TEST_F(ChartTest, KnowsItsPoints) {
+    chart.SetSize(2, 4);
+    EXPECT_TRUE(chart.HasPoint(1, 1));
+    EXPECT_TRUE(chart.HasPoint(3, 2));
+    EXPECT_FALSE(chart.HasPoint(2, 1));
+    EXPECT_FALSE(chart.HasPoint(5, 1));
+    EXPECT_FALSE(chart.HasPoint(0, 1));
+    EXPECT_FALSE(chart.HasPoint(1, 3));
+    EXPECT_FALSE(chart.HasPoint(1, 0));
+    chart.SetChartType(Chart::Type::kBar2d);
+    EXPECT_TRUE(chart.HasPoint(2, 1));
+    EXPECT_TRUE(chart.HasPoint(4, 2));
+    EXPECT_FALSE(chart.HasPoint(5, 1));
+}
+
 TEST_F(ChartTest, CopiesAScatterChartWithItsXValuesOnce) {
     chart.SetSize(2, 4);
     chart.SetAxis(Chart::kAxisX, {.Title = "Age (years)", .Scale = {}});

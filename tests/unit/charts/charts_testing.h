@@ -1,0 +1,69 @@
+// What tests of the charts stand on: the windows of the charts side, not wired, over a table of two
+// rows, and a host that prints and answers.
+#pragma once
+
+#include "charts/custom_chart.h"
+#include "charts/graph_builder.h"
+#include "platform/runtime_error.h"
+#include "unit/forms/test_host.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace arbolith {
+
+class ChartsHost : public TestHost {
+public:
+    std::optional<std::string> AskForText(const std::string& prompt) override {
+        prompts.push_back(prompt);
+        if (whileAsking) whileAsking();
+        return answerText;
+    }
+    void Print(const Drawing& picture) override {
+        if (!hasPrinter) throw RuntimeError(ErrorNumber::kPrinter);
+        printed.push_back(picture.GetSize());
+    }
+    Size ScreenSize() override { return screen; }
+
+    Size screen = {15360, 11520};
+    std::optional<std::string> answerText;
+    std::function<void()> whileAsking;
+    std::vector<std::string> prompts;
+    std::vector<Size> printed;
+    bool hasPrinter = true;
+};
+
+class ChartsTest : public testing::Test {
+protected:
+    ChartsTest() {
+        run.globals.UnitSystem = "Metric";
+        run.form.Step3_Spec.SetCaption("Red Oak");
+        FillTable({"\tSAGE\tTDBH\tMDBH\tTH", "\t5\t2.5\t1\t3", "\t10\t7.25\t6\t8"});
+    }
+
+    void FillTable(const std::vector<std::string>& rows) {
+        auto& table = output.Get().form.Table;
+        table.SetCols(5);
+        table.SetRows(1);
+        for (const auto& row : rows) table.AddItem(row);
+    }
+    arbolith::Chart& Chart() { return chart.Get().Chart; }
+    const ChartAxis& X() { return Chart().Axis(arbolith::Chart::kAxisX); }
+    const ChartAxis& Y() { return Chart().Axis(arbolith::Chart::kAxisY); }
+
+    ChartsHost host;
+    Application application{host, "/nowhere", ""};
+    RunDefinition run{application};
+    AtFirstUse<Output> output{[this] { return std::make_unique<Output>(application); }};
+    AtFirstUse<ChartWindow> chart{[this] {
+        return std::make_unique<ChartWindow>(application, output.Get().form.Title, options);
+    }};
+    AtFirstUse<ChartOptions> options{
+        [this] { return std::make_unique<ChartOptions>(application, chart); }};
+    GraphBuilder graphs{run, output, chart, options};
+};
+
+}  // namespace arbolith
