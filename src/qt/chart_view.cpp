@@ -9,6 +9,12 @@
 
 namespace arbolith {
 
+namespace {
+
+constexpr qsizetype kMostInTip = 8;
+
+}  // namespace
+
 ChartView::ChartView(Chart& chart, FormWindow& window)
     : QChartView(window.InsideOf(chart.Parent())),
       View(chart, window, this),
@@ -48,11 +54,9 @@ void ChartView::mousePressEvent(QMouseEvent* event) {
 }
 
 void ChartView::mouseMoveEvent(QMouseEvent* event) {
-    QStringList texts;
-    for (const DataPoint point : drawn_->PointsAt(event->position()))
-        texts << TextOf(drawn_->Drawn(), point);
-    viewport()->setCursor(texts.isEmpty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
-    QToolTip::showText(event->globalPosition().toPoint(), texts.join(u'\n'), viewport());
+    const auto points = drawn_->PointsAt(event->position());
+    viewport()->setCursor(points.empty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
+    QToolTip::showText(event->globalPosition().toPoint(), TipOf(points), viewport());
 }
 
 void ChartView::mouseReleaseEvent(QMouseEvent* event) {
@@ -74,13 +78,29 @@ void ChartView::Pick(DataPoint point) {
     Perform([&](UserActions& actions) { actions.PickPoint(chart_, point.series, point.point); });
 }
 
+QString ChartView::LineOf(DataPoint point) const {
+    return TextOf(drawn_->Drawn(), point).replace(u'\n', QStringLiteral(", "));
+}
+
+// A line for each of several points, as far as they are few enough to be read.
+QString ChartView::TipOf(const std::vector<DataPoint>& points) const {
+    if (points.size() == 1) return TextOf(drawn_->Drawn(), points.front());
+    QStringList lines;
+    for (const DataPoint point : points) {
+        if (lines.size() == kMostInTip) break;
+        lines << LineOf(point);
+    }
+    const auto left = static_cast<qsizetype>(points.size()) - lines.size();
+    if (left > 0) lines << QStringLiteral("and %1 more").arg(left);
+    return lines.join(u'\n');
+}
+
 void ChartView::AskWhich(const std::vector<DataPoint>& points, QPoint place) {
     QToolTip::hideText();
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const DataPoint point : points) {
-        const QString text = TextOf(drawn_->Drawn(), point).replace(u'\n', QStringLiteral(", "));
-        QAction* entry = menu->addAction(text, this, [this, point] { Pick(point); });
+        QAction* entry = menu->addAction(LineOf(point), this, [this, point] { Pick(point); });
         entry->setObjectName(EntryNameOf(point));
     }
     menu->popup(place);

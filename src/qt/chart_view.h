@@ -27,6 +27,8 @@ protected:
 
 private:
     void Pick(DataPoint point);
+    QString LineOf(DataPoint point) const;
+    QString TipOf(const std::vector<DataPoint>& points) const;
     void AskWhich(const std::vector<DataPoint>& points, QPoint place);
 
     Chart& chart_;

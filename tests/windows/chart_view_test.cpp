@@ -288,6 +288,14 @@ TEST_F(ChartViewTest, TheMouseOverAPointShowsWhatItSays) {
     window_events::Settle();
     EXPECT_EQ(QToolTip::text(), TextOf(Drawn().Drawn(), {3, 8}));
     EXPECT_EQ(viewport->cursor().shape(), Qt::PointingHandCursor);
+    Do([&] {
+        FillScatter(form.chart, 12, 16);
+        for (int column = 2; column <= 24; column += 2) form.chart.SetData(8, column, 50);
+    });
+    QTest::mouseMove(viewport, PlaceOf(3, 8) + QPoint(1, 0));
+    window_events::Settle();
+    EXPECT_TRUE(QToolTip::text().startsWith("TDBH: 50, Age (years): 40\nMDBH: 50, Age"));
+    EXPECT_TRUE(QToolTip::text().endsWith("\nand 4 more"));
     QTest::mouseMove(viewport, QPoint(2, 2));
     EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
     EXPECT_EQ(viewport->cursor().shape(), Qt::ArrowCursor);
