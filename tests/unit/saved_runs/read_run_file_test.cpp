@@ -2,7 +2,9 @@
 #include "run_definition/reset.h"
 #include "unit/saved_runs/saved_testing.h"
 
+#include <filesystem>
 #include <ostream>
+#include <unistd.h>
 
 namespace arbolith {
 namespace {
@@ -120,6 +122,28 @@ TEST_F(ReadRunFileTest, TellsAFolderInTheFilesPlace) {
     ASSERT_EQ(host.boxes.size(), 1u);
     EXPECT_EQ(host.boxes[0].text, kLoadFailed);
     EXPECT_EQ(host.boxes[0].title, "");
+}
+
+TEST_F(ReadRunFileTest, TellsAFileThatMustNotBeRead) {
+    if (geteuid() == 0) GTEST_SKIP() << "nothing is refused to root";
+    folder.Write("stand.qvn", Joined(PineFile()));
+    std::filesystem::permissions(folder.PathOf("stand.qvn"), std::filesystem::perms::none);
+    ReadRunFile(saved, folder.PathOf("stand.qvn"));
+    ASSERT_EQ(host.boxes.size(), 1u);
+    EXPECT_EQ(host.boxes[0].text, kLoadFailed);
+}
+
+TEST_F(ReadRunFileTest, UnwindsWhenTheProgramEndsWhileItWaitsForTheModel) {
+    auto lines = PineFile();
+    lines[7] = "55,0,0.0,0.0,30,0,0.0";
+    folder.Write("stand.qvn", Joined(lines));
+    host.files = {folder.PathOf("stand.qvn")};
+    host.whileWaiting = [this] { person.Click(form.Exit_Program); };
+    person.Click(form.Open_Mnu);
+    EXPECT_TRUE(host.gaveUp);
+    EXPECT_TRUE(host.ended);
+    EXPECT_TRUE(host.boxes.empty());
+    EXPECT_EQ(saved.RunFilePath, "");
 }
 
 TEST_F(ReadRunFileTest, GivesUpSilentlyOnAFileWithoutEnd) {

@@ -3,7 +3,9 @@
 #include "unit/saved_runs/saved_testing.h"
 
 #include <csignal>
+#include <filesystem>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace arbolith {
 namespace {
@@ -89,6 +91,15 @@ TEST_F(WriteRunFileTest, FailsSilentlyWhileItsNumberIsInUseAndFreesIt) {
     EXPECT_TRUE(run.InputChanged);
     Write(folder.PathOf("other.qvn"));
     EXPECT_TRUE(folder.Holds("other.qvn"));
+}
+
+TEST_F(WriteRunFileTest, TellsAFileThatMustNotBeWritten) {
+    if (geteuid() == 0) GTEST_SKIP() << "nothing is refused to root";
+    std::filesystem::permissions(folder.PathOf("stand.qvn"), std::filesystem::perms::owner_read);
+    Write(folder.PathOf("stand.qvn"));
+    ASSERT_EQ(host.boxes.size(), 1u);
+    EXPECT_EQ(host.boxes[0].text, kSaveFailed);
+    EXPECT_EQ(folder.Read("stand.qvn"), Joined(PineFile()));
 }
 
 TEST_F(WriteRunFileTest, FailsSilentlyForANameThatNoFileCanHave) {
