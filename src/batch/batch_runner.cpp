@@ -7,6 +7,8 @@
 #include "model_bridge/exchange.h"
 #include "platform/numbers.h"
 
+#include <new>
+
 namespace arbolith {
 
 namespace {
@@ -187,6 +189,8 @@ void RunBatch(Batch& batch) {
         BatchRun(batch).Run();
     } catch (const RuntimeError& error) {
         TrapBatchError(batch, error.Number());
+    } catch (const std::bad_alloc&) {
+        TrapBatchError(batch, ErrorNumber::kOutOfMemory);
     }
 }
 

@@ -13,6 +13,7 @@ using enum SequenceField;
 // Lines of HTML: blanks in front, CR LF behind.
 class HtmlLines {
 public:
+    HtmlLines() { text_.reserve(kUsualSize); }
     template <class... Pieces>
     void Add(std::size_t blanks, const Pieces&... pieces) {
         AddOpen(blanks, pieces...);
@@ -27,6 +28,8 @@ public:
     std::string Text() && { return std::move(text_); }
 
 private:
+    static constexpr std::size_t kUsualSize = 5000;
+
     std::string text_;
 };
 
@@ -209,15 +212,15 @@ std::string BatchGetHTMLTableHeader(RunDefinition& run, std::string_view ytbh,
 
 std::string BatchGetRowOutput(const DataValues& datavals) {
     constexpr std::size_t kUsualSize = 1000;
+    constexpr std::string_view kBetween = "</TD>\r\n    <TD class=\"data\">";
     std::string row;
     row.reserve(kUsualSize);
-    row += "  <TR class=\"data\">\r\n";
+    row += "  <TR class=\"data\">\r\n    <TD class=\"data\">";
     for (std::size_t i = 1; i < datavals.size(); ++i) {
-        row += "    <TD class=\"data\">";
+        if (i > 1) row += kBetween;
         row += datavals[i];
-        row += "</TD>\r\n";
     }
-    row += "  </TR>";
+    row += "</TD>\r\n  </TR>";
     return row;
 }
 

@@ -76,10 +76,12 @@ public:
         if (buffer_.size() >= kBufferSize && !IsReplacement()) Flush();
     }
     void Flush() {
-        const auto pending = std::exchange(buffer_, {});
-        if (std::fwrite(pending.data(), 1, pending.size(), stream_) != pending.size())
-            throw RuntimeError(FileErrorOf(errno, path_));
-        written_ += pending.size();
+        const auto size = buffer_.size();
+        const auto count = std::fwrite(buffer_.data(), 1, size, stream_);
+        // What can't be written is let go: another try would fail as well.
+        buffer_.clear();
+        if (count != size) throw RuntimeError(FileErrorOf(errno, path_));
+        written_ += size;
     }
     void Finish() {
         if (IsReplacement()) return Replace();

@@ -55,14 +55,20 @@ inline double MedianRatio(const std::function<void()>& ours, const std::function
 class Report {
 public:
     void AtMost(const std::string& name, double ratio, double limit) {
-        const bool holds = ratio <= limit;
-        std::printf("%-58s %8.4f  (at most %g)%s\n", name.c_str(), ratio, limit,
-                    holds ? "" : "  MISSED");
-        allHold_ = allHold_ && holds;
+        Print(name, ratio, "most", limit, ratio <= limit);
+    }
+    void AtLeast(const std::string& name, double ratio, double limit) {
+        Print(name, ratio, "least", limit, ratio >= limit);
     }
     bool AllHold() const { return allHold_; }
 
 private:
+    void Print(const std::string& name, double ratio, const char* kind, double limit, bool holds) {
+        std::printf("%-58s %8.4f  (at %s %g)%s\n", name.c_str(), ratio, kind, limit,
+                    holds ? "" : "  MISSED");
+        allHold_ = allHold_ && holds;
+    }
+
     bool allHold_ = true;
 };
 

@@ -23,14 +23,28 @@ namespace arbolith {
 
 namespace {
 
+// Programs that were let go. The system keeps an entry for each one that has ended until it is
+// asked for; that is done when the next program is started.
+std::vector<pid_t>& LetGo() {
+    static std::vector<pid_t> ids;
+    return ids;
+}
+
+void ForgetEnded() {
+    std::erase_if(LetGo(), [](pid_t id) { return waitpid(id, nullptr, WNOHANG) != 0; });
+}
+
 class PosixProcess : public Process {
 public:
     PosixProcess(pid_t id, int descriptor) : id_(id), descriptor_(descriptor) {}
-    ~PosixProcess() override { close(descriptor_); }
+    ~PosixProcess() override {
+        close(descriptor_);
+        if (!HasEnded()) LetGo().push_back(id_);
+    }
     PosixProcess(const PosixProcess&) = delete;
     PosixProcess& operator=(const PosixProcess&) = delete;
 
-    bool HasEnded() override {
+    bool HasEnded() final {
         if (ended_) return true;
         int status = 0;
         const pid_t reaped = waitpid(id_, &status, WNOHANG);
@@ -138,6 +152,7 @@ std::string ProgramStart::FileName() const {
 }
 
 std::unique_ptr<Process> StartProcess(const ProgramStart& start) {
+    ForgetEnded();
     auto command = CommandOf(start);
     if (command.empty()) return nullptr;
     const bool throughWine = command.size() > start.arguments.size() + 1;

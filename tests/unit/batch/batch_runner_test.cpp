@@ -2,6 +2,7 @@
 #include "unit/batch/batch_testing.h"
 
 #include <filesystem>
+#include <new>
 
 namespace arbolith {
 namespace {
@@ -302,6 +303,12 @@ TEST_F(RunBatchTest, FailsOnAFullDisk) {
     RunExpecting(kUnknownError);
     batch.panel.batch_out.SetText(folder.PathOf("other.txt"));
     folder.FillUp("_SOFT.TMP");
+    RunExpecting(kUnknownError);
+}
+
+TEST_F(RunBatchTest, FailsWhereTheMemoryIsUsedUp) {
+    Fill({Line("1", "S")});
+    host.model = [](const ProgramStart&) { throw std::bad_alloc(); };
     RunExpecting(kUnknownError);
 }
 

@@ -2,10 +2,12 @@
 
 #include "unit/platform/temporary_folder.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace arbolith {
 
@@ -187,6 +189,23 @@ TEST_F(ProcessTest, LeavesAProgramRunningThatIsLetGo) {
     std::string answer;
     std::ifstream(back) >> answer;
     EXPECT_EQ(answer, "alive");
+}
+
+TEST_F(ProcessTest, LeavesNoTraceOfAProgramThatWasLetGoAndHasEnded) {
+    const auto go = MakeFifo("go");
+    folder_.WriteProgram("editor", "echo $$ > id.txt; read line < go");
+    auto process = Start("editor");
+    ASSERT_NE(process, nullptr);
+    const int end = dup(process->EndDescriptor());
+    process.reset();
+    std::ofstream(go) << "go\n";
+    pollfd ended{end, POLLIN, 0};
+    poll(&ended, 1, -1);
+    close(end);
+    const auto id = std::stoi(folder_.Read("id.txt"));
+    EXPECT_EQ(kill(id, 0), 0);
+    EXPECT_EQ(Start("missing"), nullptr);
+    EXPECT_NE(kill(id, 0), 0);
 }
 
 TEST(ProgramStart, KnowsTheFileNameOfItsProgram) {
