@@ -36,6 +36,17 @@ public:
     }
 
     ExitStatus Do() {
+        try {
+            return Work();
+        } catch (const Failure&) {
+            // All else may have followed from this.
+            session_.Folder().RequireRoom();
+            throw;
+        }
+    }
+
+private:
+    ExitStatus Work() {
         Read();
         JudgeTheLines();
         ChooseReport();
@@ -48,7 +59,6 @@ public:
         return isIncomplete_ ? ExitStatus::kIncomplete : ExitStatus::kOk;
     }
 
-private:
     std::string WorkReport() const { return session_.Folder().PathOf("report"); }
 
     [[noreturn]] void Refuse(ExitStatus status, const std::string& reason) const {

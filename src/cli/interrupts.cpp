@@ -18,7 +18,9 @@ constexpr std::array<int, 3> kAsksForTheEnd = {SIGINT, SIGTERM, SIGHUP};
 volatile std::sig_atomic_t noted = 0;
 std::array<int, 2> wakeUp = {-1, -1};
 std::array<struct sigaction, kAsksForTheEnd.size()> before{};
-struct sigaction pipeBefore {};
+// A reader that has gone, and a file that would grow beyond what is allowed.
+constexpr std::array<int, 2> kTellsOfTheWrite = {SIGPIPE, SIGXFSZ};
+std::array<struct sigaction, kTellsOfTheWrite.size()> writesBefore{};
 
 extern "C" void Note(int signal) {
     const int error = errno;
@@ -44,13 +46,15 @@ Interrupts::Interrupts() {
         if (before[i].sa_handler != SIG_IGN) sigaction(kAsksForTheEnd[i], &action, nullptr);
     }
     action.sa_handler = LeaveToTheWrite;
-    sigaction(SIGPIPE, &action, &pipeBefore);
+    for (std::size_t i = 0; i < kTellsOfTheWrite.size(); ++i)
+        sigaction(kTellsOfTheWrite[i], &action, &writesBefore[i]);
 }
 
 Interrupts::~Interrupts() {
     for (std::size_t i = 0; i < kAsksForTheEnd.size(); ++i)
         sigaction(kAsksForTheEnd[i], &before[i], nullptr);
-    sigaction(SIGPIPE, &pipeBefore, nullptr);
+    for (std::size_t i = 0; i < kTellsOfTheWrite.size(); ++i)
+        sigaction(kTellsOfTheWrite[i], &writesBefore[i], nullptr);
     for (const int end : wakeUp) close(end);
     wakeUp = {-1, -1};
 }

@@ -5,7 +5,8 @@
 namespace arbolith::console {
 
 /// While one of these lives, SIGINT, SIGTERM and SIGHUP are noted instead of ending the program,
-/// unless the caller had it ignore them, and a closed pipe is an error of the write. One at a time.
+/// unless the caller had it ignore them; a closed pipe and a file that may not grow are errors of
+/// the write. One at a time.
 class Interrupts {
 public:
     Interrupts();

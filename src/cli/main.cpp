@@ -5,8 +5,8 @@
 #include "cli/interrupts.h"
 #include "platform/version.h"
 
-#include <cstdlib>
 #include <exception>
+#include <fcntl.h>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -31,6 +31,12 @@ ExitStatus Perform(const Request& request, Terminal& terminal) {
     return ExitStatus::kOk;
 }
 
+// A stream that the caller has closed would else be the next file that is opened.
+void FillClosedStreams() {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(stream, F_GETFD) == -1) open("/dev/null", O_RDONLY);
+}
+
 int StatusOf(const std::vector<std::string>& words, Terminal& terminal) {
     try {
         return static_cast<int>(Perform(ParseArguments(words), terminal));
@@ -49,6 +55,7 @@ int StatusOf(const std::vector<std::string>& words, Terminal& terminal) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    FillClosedStreams();
     const Interrupts interrupts;
     Terminal terminal(STDERR_FILENO);
     return StatusOf({argv + 1, argv + argc}, terminal);

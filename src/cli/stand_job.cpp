@@ -1,6 +1,7 @@
 // Runs the stand of a run file on the forms' single-run view. The form's own reader gives up the
 // amounts of the treatments; here they are put into the fields that the stand offers, and a value
 // of the file that the run can't have is a refusal.
+#include "batch/html_report.h"
 #include "cli/commands.h"
 #include "cli/delivery.h"
 #include "cli/request_files.h"
@@ -17,6 +18,7 @@
 #include "run_definition/step_engine.h"
 #include "saved_runs/run_file.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <vector>
 
@@ -28,6 +30,9 @@ constexpr int kAllSteps = 7;
 // The filters of the save dialog.
 constexpr int kTextFilter = 1;
 constexpr int kHtmlFilter = 2;
+// Of the yield table and of its text report.
+constexpr int kFirstDataRow = 2;
+constexpr int kTextHeadLines = 5;
 
 /// A value as the file has it and as the run has it.
 struct Comparison {
@@ -65,6 +70,17 @@ public:
     }
 
     ExitStatus Do() {
+        try {
+            return Work();
+        } catch (const Failure&) {
+            // All else may have followed from this.
+            session_.Folder().RequireRoom();
+            throw;
+        }
+    }
+
+private:
+    ExitStatus Work() {
         RequireOther(output_, request_.file);
         Read();
         RestoreAmounts();
@@ -76,7 +92,6 @@ public:
         return ExitStatus::kOk;
     }
 
-private:
     std::string WorkReport() const { return session_.Folder().PathOf("report.out"); }
 
     [[noreturn]] void Refuse(ExitStatus status, const std::string& reason) const {
@@ -154,7 +169,20 @@ private:
         session_.host.report =
             FileChoice{WorkReport(), format_ == Format::kHtml ? kHtmlFilter : kTextFilter};
         session_.Click(output.form.Save_Mnu);
-        return ReadWholeFile(WorkReport());
+        auto report = ReadWholeFile(WorkReport());
+        RequireWhole(report, output.form.Table.Rows() - kFirstDataRow);
+        return report;
+    }
+
+    // The save tells no failure.
+    void RequireWhole(const std::string& report, int rows) const {
+        const bool isWhole =
+            format_ == Format::kHtml
+                ? report.ends_with(std::string(kPageEnd) + "\r\n")
+                : std::count(report.begin(), report.end(), '\n') == kTextHeadLines + rows;
+        if (!isWhole)
+            throw Failure{ExitStatus::kCannotWrite,
+                          session_.Folder().Path() + ": the report can't be written there"};
     }
 
     const Request& request_;

@@ -1,8 +1,10 @@
 #include "cli/work_folder.h"
 
 #include "cli/exit_status.h"
+#include "platform/whole_file.h"
 
 #include <cerrno>
+#include <cstddef>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
@@ -12,6 +14,9 @@ namespace arbolith::console {
 namespace {
 
 namespace fs = std::filesystem;
+
+// What the exchange of one stand takes, generously.
+constexpr std::size_t kRoom = 1 << 16;
 
 // What other runs have left, or are at work with.
 bool IsExchangeFile(const std::string& name) {
@@ -49,6 +54,14 @@ WorkFolder::WorkFolder(const std::string& modelFolder) : path_(NewFolder()) {
 
 WorkFolder::~WorkFolder() {
     RemoveFolder(path_);
+}
+
+void WorkFolder::RequireRoom() const {
+    try {
+        ReplaceWholeFile(PathOf("_room"), std::string(kRoom, ' '));
+    } catch (const std::system_error& error) {
+        throw Failure{ExitStatus::kCannotWrite, path_ + ": " + error.code().message()};
+    }
 }
 
 void WorkFolder::LinkTo(const std::string& modelFolder) const {

@@ -18,6 +18,8 @@ public:
     WorkFolder& operator=(const WorkFolder&) = delete;
 
     const std::string& Path() const { return path_; }
+    /// Throws a Failure where nothing can be written there any more.
+    void RequireRoom() const;
     std::string PathOf(const std::string& name) const { return path_ + "/" + name; }
 
 private:

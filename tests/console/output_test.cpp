@@ -3,6 +3,7 @@
 #include <array>
 #include <fcntl.h>
 #include <filesystem>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace arbolith {
@@ -52,6 +53,33 @@ TEST_F(OutputOfRuns, NoRoomForTemporaryFoldersIsTold) {
     const auto ended = Run({"run", "stand.qvn"});
     EXPECT_EQ(ended.status, 6);
     EXPECT_TRUE(ended.errors.starts_with("arbolith-cli: there is no folder for temporary files"));
+}
+
+// The limit on the size of a file stands for a full disk; what the test reads is smaller.
+TEST_F(OutputOfRuns, AFullFolderForTemporaryOnesIsTold) {
+    work.Write("stands.qvb", BatchText({SequenceLine("1", "S")}));
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    for (const rlim_t bytes : {60, 1000, 2500}) {
+        const rlimit small{bytes, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        const auto stand = Run({"run", "stand.qvn"});
+        const auto batch = Run({"batch", "stands.qvb", "--output", "-"});
+        setrlimit(RLIMIT_FSIZE, &before);
+        for (const auto& ended : {stand, batch}) {
+            EXPECT_EQ(ended.status, 6) << bytes << " " << ended.errors;
+            EXPECT_EQ(ended.output, "");
+        }
+    }
+    EXPECT_TRUE(LeftNothingBehind());
+}
+
+TEST_F(OutputOfRuns, AClosedOutputIsTold) {
+    const int unwritable = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    const auto ended = Run({"run", "stand.qvn"}, unwritable, -1);
+    close(unwritable);
+    EXPECT_EQ(ended.status, 6);
+    EXPECT_EQ(ended.errors, "arbolith-cli: standard output: Bad file descriptor\n");
 }
 
 TEST_F(OutputOfRuns, ReportsAreTheSameInAFileAndInAPipe) {

@@ -61,6 +61,13 @@ TEST_F(WorkFolderTest, ARelativeFolderIsFoundToo) {
     fs::current_path(before);
 }
 
+TEST_F(WorkFolderTest, HasRoomUntilItIsGone) {
+    const WorkFolder folder(models.Path());
+    EXPECT_NO_THROW(folder.RequireRoom());
+    fs::remove_all(folder.Path());
+    EXPECT_THROW(folder.RequireRoom(), Failure);
+}
+
 TEST_F(WorkFolderTest, AMissingModelFolderIsTold) {
     try {
         const WorkFolder folder(models.PathOf("nowhere"));

@@ -177,6 +177,20 @@ TEST_F(EditorWindowTest, GoesToALine) {
     EXPECT_TRUE(StatusShows(QStringLiteral("Line 3, column 1")));
 }
 
+TEST_F(EditorWindowTest, PrintingAsksFirstAndCanBeCancelled) {
+    StartWith("text");
+    bool asked = false;
+    QTimer::singleShot(0, &window, [&asked] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        asked = true;
+        dialog->reject();
+    });
+    Press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(Title(), "stands.qvb - Notepad");
+}
+
 TEST_F(EditorWindowTest, WrapsOnlyWhenTold) {
     StartWith("text");
     for (auto* menu : window.menuBar()->actions())
