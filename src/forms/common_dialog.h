@@ -19,8 +19,8 @@ struct CommonDialog {
     bool ShowOpen() { return Show(false); }
     bool ShowSave() { return Show(true); }
 
-    std::string Filter;    ///< Descriptions and patterns in turn, parted by "|".
-    int FilterIndex = 1;   ///< From 1.
+    std::string Filter;   ///< Descriptions and patterns in turn, parted by "|".
+    int FilterIndex = 1;  ///< From 1.
     int Flags = 0;
     std::string InitDir;
     std::string FileName;

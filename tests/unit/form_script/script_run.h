@@ -2,9 +2,9 @@
 #pragma once
 
 #include "form_script/headless_driver.h"
-#include "platform/headless_host.h"
 #include "form_script/interpreter.h"
 #include "forms/chart.h"
+#include "platform/headless_host.h"
 #include "platform/runtime_error.h"
 #include "unit/platform/temporary_folder.h"
 
