@@ -36,17 +36,25 @@ public:
     bool hasPrinter = true;
 };
 
+/// Where the yield table has the total height.
+inline constexpr int kColumnTh = 11;
+
 class ChartsTest : public testing::Test {
 protected:
     ChartsTest() {
         run.globals.UnitSystem = "Metric";
         run.form.Step3_Spec.SetCaption("Red Oak");
-        FillTable({"\tSAGE\tTDBH\tMDBH\tTH", "\t5\t2.5\t1\t3", "\t10\t7.25\t6\t8"});
+        FillTable({Row("SAGE\tTDBH\tMDBH", "TH"), Row("5\t2.5\t1", "3"), Row("10\t7.25\t6", "8")});
+    }
+
+    /// The first three columns, and the one of the total height.
+    static std::string Row(const std::string& first, const std::string& height) {
+        return "\t" + first + std::string(kColumnTh - 3, '\t') + height;
     }
 
     void FillTable(const std::vector<std::string>& rows) {
         auto& table = output.Get().form.Table;
-        table.SetCols(5);
+        table.SetCols(kColumnTh + 1);
         table.SetRows(1);
         for (const auto& row : rows) table.AddItem(row);
     }

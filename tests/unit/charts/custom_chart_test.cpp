@@ -83,7 +83,7 @@ TEST_F(CustomChartTest, DrawsInTheOrderOfTheColumns) {
     window.DrawChoice();
     EXPECT_FALSE(window.Visible());
     EXPECT_EQ(output.Get().XColumn, 1);
-    EXPECT_EQ(output.Get().SeriesColumns, (std::vector<std::int16_t>{2, 3, 4}));
+    EXPECT_EQ(output.Get().SeriesColumns, (std::vector<std::int16_t>{2, 3, kColumnTh}));
     EXPECT_EQ(Y().Title, "TDBH/MDBH/TH");
     EXPECT_TRUE(window.H.boxes[0].Value());
 }

@@ -31,7 +31,7 @@ TEST_F(GraphBuilderTest, EndsSilentlyWithoutAnXColumn) {
 TEST_F(GraphBuilderTest, TakesTheXColumnBeforeForOneThatIsNotThere) {
     graphs.GraphCustom("TH,TDBH", "");
     graphs.GraphCustom("XYZ,MDBH", "");
-    EXPECT_EQ(output.Get().XColumn, 4);
+    EXPECT_EQ(output.Get().XColumn, kColumnTh);
     EXPECT_EQ(Chart().Data(2, 1), 8);
     EXPECT_EQ(X().Title, "Total Height (m)");
 }
@@ -108,7 +108,7 @@ TEST_F(GraphBuilderTest, LeavesNothingOfTheChartBefore) {
     graphs.BarGraph();
     graphs.Reset_Graph();
     EXPECT_EQ(Chart().chartType(), Chart::Type::kXyScatter);
-    EXPECT_EQ(Chart().ColumnCount(), 5);
+    EXPECT_EQ(Chart().ColumnCount(), kColumnTh + 1);
     EXPECT_EQ(Chart().RowCount(), 0);
     EXPECT_FALSE(X().Scale.Maximum);
     EXPECT_EQ(X().MajorPen, PenStyle::kDotted);
