@@ -20,7 +20,6 @@ std::array<int, 2> wakeUp = {-1, -1};
 std::array<struct sigaction, kAsksForTheEnd.size()> before{};
 // A reader that has gone, and a file that would grow beyond what is allowed.
 constexpr std::array<int, 2> kTellsOfTheWrite = {SIGPIPE, SIGXFSZ};
-std::array<struct sigaction, kTellsOfTheWrite.size()> writesBefore{};
 
 extern "C" void Note(int signal) {
     const int error = errno;
@@ -46,15 +45,13 @@ Interrupts::Interrupts() {
         if (before[i].sa_handler != SIG_IGN) sigaction(kAsksForTheEnd[i], &action, nullptr);
     }
     action.sa_handler = LeaveToTheWrite;
-    for (std::size_t i = 0; i < kTellsOfTheWrite.size(); ++i)
-        sigaction(kTellsOfTheWrite[i], &action, &writesBefore[i]);
+    for (const int signal : kTellsOfTheWrite) sigaction(signal, &action, nullptr);
 }
 
 Interrupts::~Interrupts() {
     for (std::size_t i = 0; i < kAsksForTheEnd.size(); ++i)
         sigaction(kAsksForTheEnd[i], &before[i], nullptr);
-    for (std::size_t i = 0; i < kTellsOfTheWrite.size(); ++i)
-        sigaction(kTellsOfTheWrite[i], &writesBefore[i], nullptr);
+    // Those of the write stay: the last bytes go out when the program ends.
     for (const int end : wakeUp) close(end);
     wakeUp = {-1, -1};
 }
