@@ -1,0 +1,37 @@
+#include "soak/memory.h"
+
+#include <fstream>
+#include <malloc.h>
+#include <unistd.h>
+#if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/allocator_interface.h>
+#endif
+
+namespace arbolith {
+
+namespace {
+
+std::size_t HeapInUse() {
+#if defined(__SANITIZE_ADDRESS__)
+    return __sanitizer_get_current_allocated_bytes();
+#else
+    const auto info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+#endif
+}
+
+std::size_t Resident() {
+    std::ifstream file("/proc/self/statm");
+    std::size_t all = 0;
+    std::size_t pages = 0;
+    file >> all >> pages;
+    return pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+}
+
+}  // namespace
+
+Memory MeasureMemory() {
+    return {HeapInUse(), Resident()};
+}
+
+}  // namespace arbolith
