@@ -58,8 +58,7 @@ bool IsWoodLetter(const std::string& field) {
     return EqualIgnoringCase(field, "S") || EqualIgnoringCase(field, "H");
 }
 
-void AddRow(Batch& batch, int slot, const std::string& line) {
-    EntryAt(batch.SeqLines, slot) = line;
+void AddRow(Batch& batch, const std::string& line) {
     batch.panel.Batch_Seq.AddItem(DescribeSequence(batch.run, line));
 }
 
@@ -72,10 +71,13 @@ void TakeSequences(Batch& batch, const std::vector<std::string>& items) {
         if (line.empty()) continue;
         const SequenceFields fields(line);
         if (IsWoodLetter(fields[SequenceField::kPlot])) {
-            AddRow(batch, slot, " \t" + line);
+            const auto labelled = " \t" + line;
+            EntryAt(batch.SeqLines, slot) = labelled;
+            AddRow(batch, labelled);
         } else if (IsWoodLetter(fields[SequenceField::kWood])) {
+            EntryAt(batch.SeqLines, slot) = line;
             EntryAt(batch.SeqPlots, static_cast<int>(i - first)) = fields[SequenceField::kPlot];
-            AddRow(batch, slot, line);
+            AddRow(batch, line);
         }
         ++slot;
     }

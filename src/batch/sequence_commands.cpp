@@ -32,13 +32,14 @@ std::string WithPlot(const std::string& plot, const std::string& line) {
 }
 
 void TakeLabelsFromLines(Batch& batch) {
-    batch.SeqPlots.fill(" ");
-    batch.SeqWoods.fill(" ");
-    for (int row = 0; row < batch.panel.Batch_Seq.ListCount(); ++row) {
+    const int count = batch.panel.Batch_Seq.ListCount();
+    for (int row = 0; row < count; ++row) {
         const SequenceFields fields(EntryAt(batch.SeqLines, row));
         EntryAt(batch.SeqPlots, row) = fields[Field::kPlot];
         EntryAt(batch.SeqWoods, row) = fields[Field::kWood];
     }
+    std::fill(batch.SeqPlots.begin() + count, batch.SeqPlots.end(), " ");
+    std::fill(batch.SeqWoods.begin() + count, batch.SeqWoods.end(), " ");
 }
 
 void ShowPlotNumber(BatchPanel& panel, bool visible) {

@@ -61,13 +61,17 @@ TEST_F(BatchFileTest, MoreSequencesThanABatchHoldsEndTheRead) {
     application.Files().OpenForInput(1, folder.PathOf("a.qvb"));
 }
 
+// The last label has no entry left when its line has taken the last slot.
 TEST_F(BatchFileTest, EmptyLinesCountAgainstTheLabels) {
     std::string text = "sequences:\r\n\r\n";
     for (int i = 0; i < kSequences; ++i) text += Line("1", "S") + "\r\n";
     folder.Write("a.qvb", text);
     ReadBatch(batch, folder.PathOf("a.qvb"));
     EXPECT_EQ(batch.panel.Batch_Seq.ListCount(), kSequences - 1);
-    EXPECT_EQ(batch.SeqLines[kSequences - 1], "");
+    EXPECT_EQ(batch.SeqLines[kSequences - 1], Line("1", "S"));
+    EXPECT_EQ(batch.SeqPlots[0], " ");
+    EXPECT_EQ(batch.SeqPlots[kSequences - 1], "1");
+    EXPECT_EQ(batch.BatchPath, "");
 }
 
 TEST_F(BatchFileTest, AReadWhileItsNumberIsInUseFailsSilentlyAndFreesIt) {
