@@ -39,7 +39,7 @@ models and writes the yield tables. Nothing is asked and no window opens.
 
 Exit status: 0 done; 1 failed; 2 wrong use; 3 the file can't be read; 4 the
 checks refuse the stand; 5 a model program is missing or failed; 6 the report
-can't be written; 7 stands of the batch are missing from the report.
+can't be written; 7 stands are missing from the report.
 The manual page arbolith-cli(1) tells more.
 )";
 

@@ -8,6 +8,7 @@
 #include "cli/session.h"
 #include "cli/tables.h"
 #include "model_bridge/exchange.h"
+#include "platform/code_page.h"
 #include "platform/whole_file.h"
 
 #include <algorithm>
@@ -54,12 +55,12 @@ private:
         std::vector<CsvStand> stands;
         session_.Do([&] { stands = TablesOf(batch_); });
         terminal_.ClearProgress();
-        Deliver(format_ == Format::kCsv ? CsvText(stands) : ReadWholeFile(WorkReport()), output_);
+        Deliver(format_ == Format::kCsv ? CsvText(stands)
+                                        : ReadWholeFile(session_.Folder().ReportPath()),
+                output_);
         TellMissing(stands);
         return isIncomplete_ ? ExitStatus::kIncomplete : ExitStatus::kOk;
     }
-
-    std::string WorkReport() const { return session_.Folder().PathOf("report"); }
 
     [[noreturn]] void Refuse(ExitStatus status, const std::string& reason) const {
         throw Failure{status, request_.file + ": " + reason};
@@ -78,7 +79,7 @@ private:
         LineJudgement lines;
         session_.Do([&] { lines = JudgeLines(batch_, request_.file); });
         if (!lines.isRead) Refuse(ExitStatus::kBadFile, lines.reason);
-        for (const auto& line : lines.leftOut) Tell('"' + line + "\" is no stand");
+        for (const auto& line : lines.leftOut) Tell('"' + ToUtf8(line) + "\" is no stand");
         if (lines.breaksTheBatch)
             Refuse(ExitStatus::kBadFile, "what is no stand must not stand between the stands");
         if (panel_.Batch_Seq.ListCount() == 0) Refuse(ExitStatus::kBadFile, "it holds no stands");
@@ -100,9 +101,9 @@ private:
         for (int i = 0; i < panel_.Batch_Seq.ListCount(); ++i) {
             const auto plot = SequenceFields(EntryAt(batch_.SeqLines, i))[SequenceField::kPlot];
             if (plot.size() > kPlotHead.size())
-                Refuse(ExitStatus::kRefused, "the plot label \"" + plot + "\" is longer than the " +
-                                                 std::to_string(kPlotHead.size()) +
-                                                 " characters of a text report");
+                Refuse(ExitStatus::kRefused,
+                       "the plot label \"" + ToUtf8(plot) + "\" is longer than the " +
+                           std::to_string(kPlotHead.size()) + " characters of a text report");
         }
     }
 
@@ -113,7 +114,7 @@ private:
         try {
             session_.Do([this] {
                 panel_.batchHTML.SetValue(format_ != Format::kText);
-                panel_.batch_out.SetText(WorkReport());
+                panel_.batch_out.SetText(session_.Folder().ReportPath());
                 StartBatch(batch_);
             });
         } catch (const Failure& failure) {

@@ -1,6 +1,7 @@
 #include "cli/batch_lines.h"
 
 #include "batch/batch_text.h"
+#include "platform/code_page.h"
 
 #include <algorithm>
 
@@ -18,7 +19,7 @@ std::vector<std::string> SequenceItems(Batch& batch, const std::string& path) {
 }
 
 std::string Quoted(const std::string& line) {
-    return '"' + line + '"';
+    return '"' + ToUtf8(line) + '"';
 }
 
 // The read ended at the first line that has no row.
@@ -48,7 +49,8 @@ LineJudgement JudgeLines(Batch& batch, const std::string& path) {
     }
     const auto rows = static_cast<std::size_t>(batch.panel.Batch_Seq.ListCount());
     for (std::size_t i = 0; i < items.size(); ++i) {
-        if (!batch.SeqLines[i].empty()) continue;
+        // What is no stand may stand behind as many stands as there can be.
+        if (i < batch.SeqLines.size() && !batch.SeqLines[i].empty()) continue;
         judgement.leftOut.push_back(items[i]);
         judgement.breaksTheBatch = judgement.breaksTheBatch || i < rows;
     }

@@ -1,7 +1,5 @@
 #include "cli/csv.h"
 
-#include "platform/code_page.h"
-
 #include <algorithm>
 #include <cstddef>
 
@@ -66,7 +64,7 @@ std::string HeaderLine(const Systems& systems) {
 std::string RowLine(const CsvStand& stand, const CsvRow& row, const Systems& systems) {
     CsvLine line;
     for (const auto* text : {&stand.plot, &stand.wood, &stand.species, &stand.yearsToBreastHeight})
-        line.Add(ToUtf8(*text));
+        line.Add(*text);
     for (std::size_t i = 0; i < row.size(); ++i) {
         if (i == kAge) {
             line.Add(row[i]);

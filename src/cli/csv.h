@@ -15,7 +15,7 @@ namespace arbolith::console {
 /// One age of a stand: the variables in their fixed order, as text.
 using CsvRow = std::array<std::string, kVariableCodes.size()>;
 
-/// The yield table of one stand. Texts are in the program's code page.
+/// The yield table of one stand. Texts are UTF-8.
 struct CsvStand {
     std::string plot;
     std::string wood;     ///< "Softwood" or "Hardwood".

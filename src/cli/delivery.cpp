@@ -5,6 +5,8 @@
 #include "platform/whole_file.h"
 
 #include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -12,21 +14,33 @@ namespace arbolith::console {
 
 namespace {
 
-void WriteToStandardOutput(std::string_view report) {
-    const int failure = TryWrite(STDOUT_FILENO, report);
+// `failure` is the system's number, 0 for none.
+void RequireWritten(int failure, const std::string& name) {
     if (failure == EINTR) throw Interrupted{Interrupts::Signal()};
     if (failure != 0)
         throw Failure{ExitStatus::kCannotWrite,
-                      "standard output: " + std::generic_category().message(failure)};
+                      name + ": " + std::generic_category().message(failure)};
+}
+
+bool IsPipe(const std::string& name) {
+    struct stat found {};
+    return stat(name.c_str(), &found) == 0 && S_ISFIFO(found.st_mode);
+}
+
+// Waits for the reader, and for it to keep up.
+void WriteToPipe(const std::string& name, std::string_view report) {
+    const int descriptor = open(name.c_str(), O_WRONLY | O_CLOEXEC);
+    const int failure = descriptor == -1 ? errno : TryWrite(descriptor, report);
+    if (descriptor != -1) close(descriptor);
+    RequireWritten(failure, name);
 }
 
 }  // namespace
 
 void Deliver(std::string_view report, const std::string& name) {
-    if (name == kStandardOutput) {
-        WriteToStandardOutput(report);
-        return;
-    }
+    if (name == kStandardOutput)
+        return RequireWritten(TryWrite(STDOUT_FILENO, report), "standard output");
+    if (IsPipe(name)) return WriteToPipe(name, report);
     try {
         ReplaceWholeFile(name, report);
     } catch (const std::system_error& error) {

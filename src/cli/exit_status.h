@@ -14,7 +14,7 @@ enum class ExitStatus : int {
     kRefused = 4,      ///< The checks refuse the stand, or what its file asks for isn't possible.
     kModel = 5,        ///< A model program is missing, failed, or left nothing that can be used.
     kCannotWrite = 6,  ///< The report, or a file on the way to it, can't be written.
-    kIncomplete = 7,   ///< The report is written, but stands of the batch are missing from it.
+    kIncomplete = 7,   ///< The report is written, but stands are missing from it.
 };
 
 inline constexpr int kSignalStatus = 128;

@@ -7,7 +7,7 @@
 
 namespace arbolith::console {
 
-/// Throws a Failure where the request's file can't be read.
+/// Throws a Failure where the request's file can't be read, or is none that can be read again.
 void RequireReadable(const std::string& file);
 
 /// Throws a Failure where a report would take the place of the file that it is made from.

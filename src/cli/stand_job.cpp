@@ -12,6 +12,7 @@
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
+#include "platform/text.h"
 #include "platform/whole_file.h"
 #include "run_definition/apply_steps.h"
 #include "run_definition/commit.h"
@@ -20,7 +21,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <vector>
 
 namespace arbolith::console {
 
@@ -34,27 +34,44 @@ constexpr int kHtmlFilter = 2;
 constexpr int kFirstDataRow = 2;
 constexpr int kTextHeadLines = 5;
 
-/// A value as the file has it and as the run has it.
-struct Comparison {
+/// A number of the file, and what the run takes for it.
+struct Number {
     const char* what;
-    const std::string& told;
-    double taken;
+    std::string RunFile::*told;
+    double (*taken)(const RunRecord& record);
 };
 
-std::vector<Comparison> Compare(const RunFile& file, const RunRecord& record) {
-    return {{"spacing X", file.SPX, record.SPX},
-            {"spacing Y", file.SPY, record.SPY},
-            {"site index", file.SIB, record.SIB},
-            {"land capability", file.LC, static_cast<double>(record.LC)},
-            {"stocking", file.STK, static_cast<double>(record.STK)},
-            {"rotation age", file.RAGE, static_cast<double>(record.RAGE)},
-            {"rotation DBH", file.RDBH, record.RDBH},
-            {"age of treatment 1", file.T1Age, record.T1Age},
-            {"DBH of treatment 1", file.T1DBH, record.T1DBH},
-            {"basal area reduction of treatment 1", file.T1IBA, record.T1IBA},
-            {"spacing of treatment 1", file.ISD, record.ISD},
-            {"age of treatment 2", file.T2Age, record.T2Age},
-            {"basal area reduction of treatment 2", file.T2IBA, record.T2IBA}};
+template <auto kField>
+double Taken(const RunRecord& record) {
+    return static_cast<double>(record.*kField);
+}
+
+constexpr Number kNumbers[] = {
+    {"spacing X", &RunFile::SPX, Taken<&RunRecord::SPX>},
+    {"spacing Y", &RunFile::SPY, Taken<&RunRecord::SPY>},
+    {"site index", &RunFile::SIB, Taken<&RunRecord::SIB>},
+    {"land capability", &RunFile::LC, Taken<&RunRecord::LC>},
+    {"stocking", &RunFile::STK, Taken<&RunRecord::STK>},
+    {"rotation age", &RunFile::RAGE, Taken<&RunRecord::RAGE>},
+    {"rotation DBH", &RunFile::RDBH, Taken<&RunRecord::RDBH>},
+    {"age of treatment 1", &RunFile::T1Age, Taken<&RunRecord::T1Age>},
+    {"DBH of treatment 1", &RunFile::T1DBH, Taken<&RunRecord::T1DBH>},
+    {"basal area reduction of treatment 1", &RunFile::T1IBA, Taken<&RunRecord::T1IBA>},
+    {"spacing of treatment 1", &RunFile::ISD, Taken<&RunRecord::ISD>},
+    {"age of treatment 2", &RunFile::T2Age, Taken<&RunRecord::T2Age>},
+    {"DBH of treatment 2", &RunFile::T2DBH, Taken<&RunRecord::T2DBH>},
+    {"basal area reduction of treatment 2", &RunFile::T2IBA, Taken<&RunRecord::T2IBA>},
+};
+
+// The form takes the number that a text begins with; here all of it has to be one. An empty field
+// tells nothing.
+bool IsNumber(const std::string& told) {
+    const auto text = Trimmed(told);
+    try {
+        return text.empty() || ParseReal(text) == Val(text);
+    } catch (const RuntimeError&) {
+        return false;
+    }
 }
 
 class StandJob {
@@ -86,17 +103,19 @@ private:
         RestoreAmounts();
         Check();
         Run();
-        const auto report = Report();
+        const auto table = Table();
+        const auto report = format_ == Format::kCsv ? CsvText({table}) : SavedReport();
         terminal_.ClearProgress();
         Deliver(report, output_);
-        return ExitStatus::kOk;
+        if (!table.rows.empty()) return ExitStatus::kOk;
+        Tell("the stand has no result");
+        return ExitStatus::kIncomplete;
     }
-
-    std::string WorkReport() const { return session_.Folder().PathOf("report.out"); }
 
     [[noreturn]] void Refuse(ExitStatus status, const std::string& reason) const {
         throw Failure{status, request_.file + ": " + reason};
     }
+    void Tell(const std::string& message) const { terminal_.Say(request_.file + ": " + message); }
 
     void Read() {
         Parse();
@@ -122,6 +141,10 @@ private:
             Refuse(ExitStatus::kBadFile,
                    "it is no run file: its wood type is neither Softwood nor "
                    "Hardwood");
+        for (const auto& number : kNumbers)
+            if (const auto& told = file_.*number.told; !IsNumber(told))
+                Refuse(ExitStatus::kBadFile, std::string("the ") + number.what + " is " +
+                                                 ToUtf8(told) + ", which is no number");
     }
 
     // Each amount may open the field of the next one.
@@ -145,11 +168,25 @@ private:
             CommitStep7(run_);
         });
         if (run_.StepErrorFlag) Refuse(ExitStatus::kRefused, run_.StepErrorText);
-        for (const auto& value : Compare(file_, run_.record))
-            if (Val(value.told) != value.taken)
-                Refuse(ExitStatus::kRefused, std::string("the ") + value.what + " is " +
-                                                 value.told + ", but the run can only have " +
-                                                 DefaultText(value.taken));
+        for (const auto& number : kNumbers) {
+            const auto& told = file_.*number.told;
+            const double taken = number.taken(run_.record);
+            if (Val(told) != taken)
+                Refuse(ExitStatus::kRefused, std::string("the ") + number.what + " is " + told +
+                                                 ", but the run can only have " +
+                                                 DefaultText(taken));
+        }
+        TellWhatIsNotLookedAt();
+    }
+
+    // What takes no value away from the run.
+    void TellWhatIsNotLookedAt() const {
+        const auto& told = file_.FREQ;
+        const double frequency = WholePart(run_.record.FREQ);
+        if (!told.empty() && (!IsNumber(told) || Val(told) != frequency))
+            Tell("the frequency " + ToUtf8(told) + " is not looked at: the spacings give " +
+                 DefaultText(frequency));
+        if (file_.goesOn) Tell("what stands behind the spacing of treatment 1 is not looked at");
     }
 
     void Run() {
@@ -162,15 +199,21 @@ private:
             throw Failure{ExitStatus::kModel, model + " left a result that can't be used"};
     }
 
-    std::string Report() {
-        auto& output = *session_.Forms().Results().output.Find();
+    Output& Results() { return *session_.Forms().Results().output.Find(); }
+
+    CsvStand Table() {
         const auto name = std::filesystem::path(request_.file).stem().string();
-        if (format_ == Format::kCsv) return CsvText({TableOf(output, run_, FromUtf8(name))});
+        return TableOf(Results(), run_, AnyToUtf8(name));
+    }
+
+    std::string SavedReport() {
+        auto& form = Results().form;
+        const auto path = session_.Folder().ReportPath();
         session_.host.report =
-            FileChoice{WorkReport(), format_ == Format::kHtml ? kHtmlFilter : kTextFilter};
-        session_.Click(output.form.Save_Mnu);
-        auto report = ReadWholeFile(WorkReport());
-        RequireWhole(report, output.form.Table.Rows() - kFirstDataRow);
+            FileChoice{path, format_ == Format::kHtml ? kHtmlFilter : kTextFilter};
+        session_.Click(form.Save_Mnu);
+        auto report = ReadWholeFile(path);
+        RequireWhole(report, form.Table.Rows() - kFirstDataRow);
         return report;
     }
 

@@ -1,6 +1,7 @@
 #include "cli/tables.h"
 
 #include "batch/report_blocks.h"
+#include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
 #include "platform/text.h"
@@ -23,7 +24,7 @@ std::string AsShown(const std::string& value) {
     try {
         return DefaultText(ParseReal(value));
     } catch (const RuntimeError&) {
-        return value;
+        return ToUtf8(value);
     }
 }
 
@@ -36,7 +37,7 @@ CsvStand StandOf(Batch& batch, int sequence) {
     const SequenceFields fields(EntryAt(batch.SeqLines, sequence));
     auto& run = batch.run;
     CsvStand stand;
-    stand.plot = EntryAt(batch.SeqPlots, sequence);
+    stand.plot = ToUtf8(EntryAt(batch.SeqPlots, sequence));
     stand.wood = WoodInWords(fields[kWood]);
     LoadSpeciesTables(run.species, stand.wood, run.ShortHardwoodList);
     stand.species = run.species.Species(fields[kSpec]);

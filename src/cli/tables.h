@@ -10,7 +10,7 @@
 
 namespace arbolith::console {
 
-/// The table of a single run, on view in the Output window.
+/// The table of a single run, on view in the Output window. The label of its plot is UTF-8.
 CsvStand TableOf(const Output& output, const RunDefinition& run, const std::string& plot);
 
 /// The tables of a batch that has been run, in the order of its sequences; a sequence without a

@@ -1,6 +1,7 @@
 #include "cli/terminal.h"
 
 #include "cli/delivery.h"
+#include "platform/code_page.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,6 +28,19 @@ bool CanShowProgress(int descriptor) {
            size.ws_col >= kNeededColumns;
 }
 
+// A message may hold what stands in a file: control characters would reach the terminal.
+std::string Printable(std::string_view message) {
+    auto text = AnyToUtf8(message);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if ((byte < 0x20 && byte != '\t') || byte == 0x7F) text[i] = '?';
+        // The two bytes of the control characters behind ASCII.
+        const bool isUpper = byte == 0xC2 && static_cast<unsigned char>(text[i + 1]) < 0xA0;
+        if (isUpper) text.replace(i, 2, "?");
+    }
+    return text;
+}
+
 }  // namespace
 
 Terminal::Terminal(int descriptor)
@@ -35,7 +49,7 @@ Terminal::Terminal(int descriptor)
 void Terminal::Say(std::string_view message) {
     ClearProgress();
     // Nobody is left to be told that telling has failed.
-    TryWrite(descriptor_, "arbolith-cli: " + std::string(message) + "\n");
+    TryWrite(descriptor_, "arbolith-cli: " + Printable(message) + "\n");
 }
 
 void Terminal::Progress(double part, std::string_view what) {

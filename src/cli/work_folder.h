@@ -9,8 +9,9 @@ namespace arbolith::console {
 
 class WorkFolder {
 public:
-    /// A fresh folder among the system's temporary ones with links to the models' folder. Throws a
-    /// Failure where either can't be used.
+    /// A fresh folder among the system's temporary ones with links to what lies in the models'
+    /// folder, but for files whose names begin with "_". Throws a Failure where either can't be
+    /// used.
     explicit WorkFolder(const std::string& modelFolder);
     /// Removes it with all that lies in it; what the links lead to stays.
     ~WorkFolder();
@@ -21,6 +22,8 @@ public:
     /// Throws a Failure where nothing can be written there any more.
     void RequireRoom() const;
     std::string PathOf(const std::string& name) const { return path_ + "/" + name; }
+    /// Where a report is put together. No link stands in this place.
+    std::string ReportPath() const { return PathOf("_REPORT.TMP"); }
 
 private:
     void LinkTo(const std::string& modelFolder) const;

@@ -35,22 +35,24 @@ std::size_t SequenceLength(unsigned char lead) {
     return lead >= 0xF0 && lead < 0xF5 ? 4 : 0;
 }
 
-// Takes one character off the front; 0xFFFD where the bytes are no UTF-8.
+constexpr char32_t kNoCharacter = 0xFFFD;
+
+// Takes one character off the front; kNoCharacter where the bytes are no UTF-8.
 char32_t TakeCodePoint(std::string_view& utf8) {
     const auto lead = static_cast<unsigned char>(utf8.front());
     const auto length = SequenceLength(lead);
     utf8.remove_prefix(1);
     if (length == 1) return lead;
-    if (length == 0 || utf8.size() < length - 1) return 0xFFFD;
+    if (length == 0 || utf8.size() < length - 1) return kNoCharacter;
     char32_t c = lead & (0x7Fu >> length);
     for (std::size_t i = 0; i + 1 < length; ++i) {
         const auto unit = static_cast<unsigned char>(utf8[i]);
-        if ((unit & 0xC0) != 0x80) return 0xFFFD;
+        if ((unit & 0xC0) != 0x80) return kNoCharacter;
         c = (c << 6) | (unit & 0x3F);
     }
     utf8.remove_prefix(length - 1);
     constexpr std::array<char32_t, 5> kLeast = {0, 0, 0x80, 0x800, 0x10000};
-    return c < kLeast[length] ? 0xFFFD : c;
+    return c < kLeast[length] ? kNoCharacter : c;
 }
 
 }  // namespace
@@ -72,6 +74,12 @@ std::string ToUtf8(std::string_view text) {
     utf8.reserve(text.size());
     for (const char c : text) AppendUtf8(utf8, CodePointOf(static_cast<unsigned char>(c)));
     return utf8;
+}
+
+std::string AnyToUtf8(std::string_view text) {
+    for (auto rest = text; !rest.empty();)
+        if (TakeCodePoint(rest) == kNoCharacter) return ToUtf8(text);
+    return std::string(text);
 }
 
 std::string FromUtf8(std::string_view utf8) {

@@ -16,6 +16,9 @@ unsigned char ByteOf(char32_t codePoint);
 /// UTF-8 for Windows-1252 text.
 std::string ToUtf8(std::string_view text);
 
+/// UTF-8 for a text from outside: as it stands where it is UTF-8, else taken for Windows-1252.
+std::string AnyToUtf8(std::string_view text);
+
 /// Windows-1252 for UTF-8 text; what is not in the code page, or not UTF-8, becomes '?'.
 std::string FromUtf8(std::string_view utf8);
 

@@ -43,18 +43,19 @@ std::string TreatmentLine(const RunRecord& record) {
 RunFile ParseRunFile(std::string_view text) {
     ItemReader items(text);
     RunFile file;
-    std::string notLookedAt;
+    std::string banner;
     for (std::string* field :
-         {&notLookedAt,                                                              // banner
-          &file.WDTYPE,  &file.UnitSystem,                                           //
-          &file.natural, &file.planted,    &file.SPX,   &file.SPY,    &notLookedAt,  // frequency
-          &file.SPEC,                                                                //
-          &file.SIB,     &file.LC,                                                   //
-          &file.STK,                                                                 //
-          &file.RAGE,    &file.RDBH,                                                 //
-          &file.T1Age,   &file.T2Age,      &file.T1DBH, &notLookedAt,                // diameter 2
+         {&banner,                                                                //
+          &file.WDTYPE,  &file.UnitSystem,                                        //
+          &file.natural, &file.planted,    &file.SPX,   &file.SPY,   &file.FREQ,  //
+          &file.SPEC,                                                             //
+          &file.SIB,     &file.LC,                                                //
+          &file.STK,                                                              //
+          &file.RAGE,    &file.RDBH,                                              //
+          &file.T1Age,   &file.T2Age,      &file.T1DBH, &file.T2DBH,              //
           &file.T1IBA,   &file.T2IBA,      &file.ISD})
         *field = items.Read();
+    while (!items.AtEnd()) file.goesOn = !items.Read().empty() || file.goesOn;
     return file;
 }
 

@@ -18,6 +18,7 @@ struct RunFile {
     std::string planted;
     std::string SPX;
     std::string SPY;
+    std::string FREQ;  ///< Not looked at by the form: it follows from the spacings.
     std::string SPEC;
     std::string SIB;
     std::string LC;
@@ -27,9 +28,11 @@ struct RunFile {
     std::string T1Age;
     std::string T2Age;
     std::string T1DBH;
+    std::string T2DBH;  ///< Not looked at by the form: no run has it.
     std::string T1IBA;
     std::string T2IBA;
     std::string ISD;
+    bool goesOn = false;  ///< More than blanks stands behind the last field.
 };
 
 /// Reads the fields one by one, whatever lines they stand on; what follows the last is ignored.

@@ -127,6 +127,13 @@ TEST_F(BatchFileRuns, TellsLinesThatAreNoStands) {
     EXPECT_EQ(comment.errors, "arbolith-cli: stands.qvb: \"# the end\" is no stand\n");
 }
 
+TEST_F(BatchFileRuns, MessagesAreUtf8) {
+    EXPECT_EQ(RunLines({SequenceLine("\xC9rable \x1B", "h"), SequenceLine("1", "S")}).errors,
+              "arbolith-cli: stands.qvb: the stand of plot Érable ? has no result\n");
+    EXPECT_EQ(RunLines({SequenceLine("1", "S"), "\xC9\tline"}).errors,
+              "arbolith-cli: stands.qvb: \"É\tline\" is no stand\n");
+}
+
 TEST_F(BatchFileRuns, TellsABatchThatIsNone) {
     EXPECT_EQ(RunLines({}).errors, "arbolith-cli: stands.qvb: it holds no stands\n");
     EXPECT_EQ(RunLines({}).status, 3);

@@ -80,19 +80,29 @@ TEST_F(Models, AnEarlierResultIsNeverTakenForANewOne) {
 }
 
 TEST_F(Models, TheirFolderStaysAsItIs) {
-    models.Write("_OUTPUT.TMP", "of another run");
+    const char* names[] = {"_OUTPUT.TMP", "_REPORT.TMP", "report", "report.out", "stands.txt"};
+    for (const auto* name : names) models.Write(name, "not ours");
     EXPECT_EQ(RunStand().status, 0);
     EXPECT_EQ(RunBatch().status, 0);
-    EXPECT_EQ(models.Read("_OUTPUT.TMP"), "of another run");
-    EXPECT_EQ(std::distance(fs::directory_iterator(models.Path()), {}), 3);
+    for (const auto* name : names) EXPECT_EQ(models.Read(name), "not ours") << name;
+    EXPECT_EQ(std::distance(fs::directory_iterator(models.Path()), {}), 7);
 }
 
 TEST_F(Models, FilesBesideThemAreInReach) {
     models.Write("table.txt", "7.25");
     ReplaceModels("read years < table.txt; printf '%s\\r\\n' $years > _OUTPUT.TMP");
     const auto ended = RunStand();
-    EXPECT_EQ(ended.status, 0) << ended.errors;
-    EXPECT_NE(ended.output.find("7.25 Years from Stump"), std::string::npos);
+    EXPECT_NE(ended.output.find("7.25 Years from Stump"), std::string::npos) << ended.errors;
+}
+
+TEST_F(Models, ThatGiveNoRowsAreTold) {
+    ReplaceModels(R"(printf '7.25\r\n' > _OUTPUT.TMP)");
+    for (const char* format : {"text", "html", "csv"}) {
+        const auto ended = Run({"run", "stand.qvn", "--format", format});
+        EXPECT_EQ(ended.status, 7);
+        EXPECT_EQ(ended.errors, "arbolith-cli: stand.qvn: the stand has no result\n");
+        EXPECT_NE(ended.output, "");
+    }
 }
 
 TEST_F(Models, RunsAtTheSameTimeDontDisturbEachOther) {

@@ -157,6 +157,46 @@ TEST_F(RunFileRuns, DropsNoValueSilently) {
               "arbolith-cli: stand.qvn: the DBH of treatment 1 is 20.0, but the run can only have "
               "0\n");
     EXPECT_EQ(ended.status, 4);
+    stand.treatments = "60,80,0.0,12.5,30,25,0.0";
+    EXPECT_EQ(RunStand(stand).errors,
+              "arbolith-cli: stand.qvn: the DBH of treatment 2 is 12.5, but the run can only have "
+              "0\n");
+}
+
+TEST_F(RunFileRuns, TakesNoBeginningOfATextForItsNumber) {
+    StandLines stand;
+    stand.stocking = "8O";
+    const auto stocked = RunStand(stand);
+    EXPECT_EQ(stocked.status, 3);
+    EXPECT_EQ(stocked.errors, "arbolith-cli: stand.qvn: the stocking is 8O, which is no number\n");
+    stand.stocking = "100";
+    const std::vector<std::string> fields = {"none", "1e2", "\xBD", std::string(400, '9')};
+    for (const auto& field : fields) {
+        stand.treatments = "60,0,0.0,0.0,30," + field + ",0.0";
+        EXPECT_EQ(RunStand(stand).status, 3) << field;
+    }
+    EXPECT_EQ(RunStand(stand).output, "");
+    // Nothing is no text.
+    stand.treatments = ",,,,,,";
+    EXPECT_EQ(RunStand(stand).status, 0);
+}
+
+TEST_F(RunFileRuns, TellsWhatTheFormDoesntLookAt) {
+    StandLines stand;
+    stand.species = "White Spruce";
+    stand.regeneration = "No,Yes,2.0,2.0,2500";
+    EXPECT_EQ(RunStand(stand).errors, "");
+    stand.regeneration = "No,Yes,2.0,2.0,999";
+    stand.treatments += "\r\n\r\nanother stand";
+    const auto ended = RunStand(stand);
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(
+        ended.errors,
+        "arbolith-cli: stand.qvn: the frequency 999 is not looked at: the spacings give "
+        "2500\n"
+        "arbolith-cli: stand.qvn: what stands behind the spacing of treatment 1 is not looked "
+        "at\n");
+    EXPECT_NE(LineOf(ended.output, 1).find("\t2500\t2.0\t2.0\t"), std::string::npos);
 }
 
 TEST_F(RunFileRuns, TellsAFileThatIsNone) {
@@ -180,6 +220,10 @@ TEST_F(RunFileRuns, WritesCsvWithTheFilesNameAsPlot) {
     const auto csv = work.Read("r.csv");
     EXPECT_TRUE(LineOf(csv, 0).starts_with("Plot,Wood,Species,"));
     EXPECT_TRUE(LineOf(csv, 1).starts_with("Érable 7,Softwood,White Pine,"));
+    // No matter whether the program's own texts could hold it.
+    work.Write("Łąka.qvn", StandLines().Text());
+    EXPECT_TRUE(LineOf(Run({"run", "Łąka.qvn", "--format", "csv"}).output, 1)
+                    .starts_with("Łąka,Softwood,White Pine,"));
     // As many ages as the text report has lines below its heads.
     const auto text = Run({"run", "Érable 7.qvn"}).output;
     const auto lines = [](const std::string& report) {

@@ -45,6 +45,15 @@ TEST_F(BatchLines, WithAnUnknownFieldAreTheReason) {
     EXPECT_EQ(lines.reason, "a field of the stand \"2\tS\tY\tY\tXX\" can't be understood");
 }
 
+TEST_F(BatchLines, ThatStandBehindAFullBatchAreNamed) {
+    std::string text;
+    for (int i = 0; i < kSequences; ++i) text += Line("1", "S") + "\r\n";
+    const auto lines = Judge(text + "no\tstand\r\n");
+    EXPECT_TRUE(lines.isRead);
+    EXPECT_EQ(lines.leftOut, std::vector<std::string>{"no\tstand"});
+    EXPECT_FALSE(lines.breaksTheBatch);
+}
+
 TEST_F(BatchLines, AreCounted) {
     std::string text;
     for (int i = 0; i <= kSequences; ++i) text += Line("1", "S") + "\r\n";

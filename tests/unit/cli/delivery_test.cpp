@@ -7,8 +7,13 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <fstream>
+#include <future>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <string>
+#include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace arbolith::console {
@@ -55,6 +60,40 @@ TEST(Delivery, AClosedPipeIsAnErrorOfTheWrite) {
     ASSERT_EQ(pipe(ends.data()), 0);
     close(ends[0]);
     EXPECT_EQ(TryWrite(ends[1], "text"), EPIPE);
+    close(ends[1]);
+}
+
+// Many times what a pipe holds.
+TEST(Delivery, APipeGetsAllThatItsReaderTakes) {
+    const TemporaryFolder folder;
+    const auto name = folder.PathOf("pipe");
+    ASSERT_EQ(mkfifo(name.c_str(), 0600), 0);
+    const std::string report(1'000'000, 'x');
+    auto taken = std::async(std::launch::async, [&name] {
+        std::ifstream pipe(name);
+        return std::string(std::istreambuf_iterator<char>(pipe), {});
+    });
+    EXPECT_NO_THROW(Deliver(report, name));
+    EXPECT_EQ(taken.get(), report);
+}
+
+TEST(Delivery, APipeWhoseReaderHasGoneIsTold) {
+    const Interrupts interrupts;
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    const auto name = "/dev/fd/" + std::to_string(ends[1]);
+    std::thread reader([&ends] {
+        char byte = 0;
+        EXPECT_EQ(read(ends[0], &byte, 1), 1);
+        close(ends[0]);
+    });
+    try {
+        Deliver(std::string(1'000'000, 'x'), name);
+        ADD_FAILURE() << "no failure";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.message, name + ": Broken pipe");
+    }
+    reader.join();
     close(ends[1]);
 }
 

@@ -41,6 +41,13 @@ TEST_F(RequestFiles, AFileThatIsThereCanBeRead) {
     EXPECT_EQ(FailureOf([] { RequireReadable("/"); }), "3 /: Is a directory");
 }
 
+TEST_F(RequestFiles, WhatCantBeReadTwiceIsRefused) {
+    EXPECT_EQ(FailureOf([] { RequireReadable("/dev/zero"); }),
+              "3 /dev/zero: it is not a regular file");
+    std::filesystem::resize_file(file, 65U << 20U);
+    EXPECT_EQ(FailureOf([&] { RequireReadable(file); }), "3 " + file + ": it is too large");
+}
+
 TEST_F(RequestFiles, AReportIsAnotherFile) {
     EXPECT_EQ(FailureOf([&] { RequireOther(folder.PathOf("report.txt"), file); }), "");
     EXPECT_EQ(FailureOf([&] { RequireOther("-", file); }), "");

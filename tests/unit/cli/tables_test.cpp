@@ -46,6 +46,17 @@ TEST_F(Tables, KeepWhatIsNoNumber) {
     EXPECT_EQ(TablesOf(batch)[0].rows[0].back(), "***");
 }
 
+TEST_F(Tables, HoldTextsAsUtf8) {
+    Fill({Line("\xC9", "S")});
+    batch.SeqPlots[0] = "\xC9rable \x96 7";
+    auto row = Row("0", "5");
+    row.replace(row.size() - 3, 3, "\xB2");
+    folder.Write("_SOFTOUT.TMP", "7\r\n" + row + "\r\n");
+    const auto table = TablesOf(batch)[0];
+    EXPECT_EQ(table.plot, "\u00C9rable \u2013 7");
+    EXPECT_EQ(table.rows[0].back(), "\u00B2");
+}
+
 TEST_F(Tables, OfAStandThatTheBatchLacksCantBeRead) {
     Fill({Line("1", "S")});
     folder.Write("_SOFTOUT.TMP", "7\r\n" + Row("1", "5") + "\r\n");

@@ -51,6 +51,16 @@ TEST(Terminal, AMessageCarriesTheProgramsName) {
     EXPECT_EQ(Read(ends.reader), "arbolith-cli: stand.qvn: No such file or directory\n");
 }
 
+TEST(Terminal, AMessageIsUtf8WithoutControlCharacters) {
+    Ends ends;
+    OpenPipe(ends);
+    Terminal terminal(ends.writer);
+    terminal.Say("\u00C9rable\t\x1B[2J\x07\x7F\r\n\u0090.");
+    EXPECT_EQ(Read(ends.reader), "arbolith-cli: \u00C9rable\t?[2J?????.\n");
+    terminal.Say("\xC9rable \x90");
+    EXPECT_EQ(Read(ends.reader), "arbolith-cli: \u00C9rable ?\n");
+}
+
 TEST(Terminal, APipeSeesNoProgress) {
     Ends ends;
     OpenPipe(ends);

@@ -33,6 +33,13 @@ TEST_F(WorkFolderTest, LeavesExchangeFilesOfOthersAside) {
     EXPECT_FALSE(fs::exists(folder.PathOf("_OUTPUT.TMP")));
 }
 
+TEST_F(WorkFolderTest, ItsReportIsNobodyElses) {
+    const auto name = fs::path(WorkFolder(models.Path()).ReportPath()).filename().string();
+    models.Write(name, "theirs");
+    const WorkFolder folder(models.Path());
+    EXPECT_FALSE(fs::exists(fs::symlink_status(folder.ReportPath())));
+}
+
 TEST_F(WorkFolderTest, EachRunHasOneOfItsOwn) {
     const WorkFolder first(models.Path());
     const WorkFolder second(models.Path());

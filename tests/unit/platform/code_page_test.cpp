@@ -40,6 +40,13 @@ TEST(CodePage, WritesUtf8OfOneToThreeBytes) {
     EXPECT_EQ(ToUtf8("a\xE9\x80"), "a\u00E9\u20AC");
 }
 
+TEST(CodePage, LeavesUtf8AsItIsAndTakesAllElseForItsOwn) {
+    EXPECT_EQ(AnyToUtf8("\u00C9rable \u4E2D \U0001F332"), "\u00C9rable \u4E2D \U0001F332");
+    EXPECT_EQ(AnyToUtf8("\xC9rable"), "\u00C9rable");
+    EXPECT_EQ(AnyToUtf8("\xC3\x89 \xC9"), "\u00C3\u2030 \u00C9");
+    EXPECT_EQ(AnyToUtf8(""), "");
+}
+
 TEST(CodePage, TurnsWhatIsNoUtf8IntoQuestionMarks) {
     EXPECT_EQ(FromUtf8("a\xFFz"), "a?z");
     EXPECT_EQ(FromUtf8("\x80"), "?");

@@ -36,6 +36,7 @@ TEST(RunFileTest, HasItsFieldsInOrder) {
     EXPECT_EQ(file.planted, "planted");
     EXPECT_EQ(file.SPX, "x");
     EXPECT_EQ(file.SPY, "y");
+    EXPECT_EQ(file.FREQ, "frequency");
     EXPECT_EQ(file.SPEC, "species");
     EXPECT_EQ(file.SIB, "site");
     EXPECT_EQ(file.LC, "class");
@@ -45,6 +46,7 @@ TEST(RunFileTest, HasItsFieldsInOrder) {
     EXPECT_EQ(file.T1Age, "age1");
     EXPECT_EQ(file.T2Age, "age2");
     EXPECT_EQ(file.T1DBH, "diameter1");
+    EXPECT_EQ(file.T2DBH, "diameter2");
     EXPECT_EQ(file.T1IBA, "area1");
     EXPECT_EQ(file.T2IBA, "area2");
     EXPECT_EQ(file.ISD, "spacing");
@@ -60,6 +62,12 @@ TEST(RunFileTest, IsTooShortUntilItsLastField) {
 
 TEST(RunFileTest, IgnoresWhatFollowsItsLastField) {
     EXPECT_EQ(ParseRunFile(std::string(kFields) + "\r\nmore,\r\n").ISD, "spacing");
+}
+
+TEST(RunFileTest, TellsWhetherMoreFollowsItsLastField) {
+    EXPECT_FALSE(ParseRunFile(kFields).goesOn);
+    EXPECT_FALSE(ParseRunFile(std::string(kFields) + ",\r\n \t\r\n").goesOn);
+    EXPECT_TRUE(ParseRunFile(std::string(kFields) + "\r\n\r\nmore\r\n\r\n").goesOn);
 }
 
 TEST(RunFileTest, BeginsWithTheProgramsBanner) {
