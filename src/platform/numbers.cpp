@@ -76,7 +76,11 @@ double Val(std::string_view text) {
     if (number.front() == '+') number.remove_prefix(1);
     double value = 0;
     const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (result.ec == std::errc::result_out_of_range) throw RuntimeError(ErrorNumber::kOverflow);
+    if (result.ec == std::errc::result_out_of_range) {
+        // Too small to be told from 0, or too large.
+        if (number.find_first_of("123456789") > number.find('.')) return 0;
+        throw RuntimeError(ErrorNumber::kOverflow);
+    }
     return value == 0 ? 0 : value;
 }
 

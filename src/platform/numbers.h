@@ -9,7 +9,8 @@
 namespace arbolith {
 
 /// The numeric value of a text: leading blanks skipped, the longest leading decimal number (sign,
-/// digits, at most one point) taken; 0 if there is none.
+/// digits, at most one point) taken; 0 if there is none. Throws an overflow when it doesn't fit 64
+/// bits.
 double Val(std::string_view text);
 
 /// The default text form: the shortest general form with at most 15 significant digits, a digit

@@ -21,6 +21,14 @@ void ForgetErrors(RunDefinition& run) {
     run.StepErrorStep = 0;
 }
 
+// Before anything looks at them: a file may have left a number that doesn't fit.
+void EmptyFields(MainForm& form) {
+    for (TextBox* box :
+         {&form.spac1, &form.spac2, &form.Site, &form.Stocking_Index, &form.txtRotAge,
+          &form.txtRotDBH, &form.Age1, &form.DBH1, &form.BA1, &form.Spacing, &form.Age2, &form.BA2})
+        box->SetText("");
+}
+
 void ResetSpecies(RunDefinition& run) {
     LoadSpeciesTables(run.species, "Softwood", run.ShortHardwoodList);
     FillSpecies(run);
@@ -31,25 +39,20 @@ void ResetSite(RunDefinition& run) {
     auto& form = run.form;
     Choose(form.choose_Land, form.choose_Site);
     FillLandCapabilities(run, LandCapabilityClasses("Softwood"));
-    form.Site.SetText("");
     ApplyStep4(run);
 }
 
 void ResetRotation(RunDefinition& run) {
     auto& form = run.form;
     Choose(form.Step6_opt1, form.Step6_opt2);
-    form.txtRotAge.SetText("");
-    form.txtRotDBH.SetText("");
     ApplyStep6(run);
 }
 
 void ResetTreatments(RunDefinition& run) {
     auto& form = run.form;
     Choose(form.Step7_T1Age, form.Step7_T1DBH);
-    for (TextBox* box : {&form.Age1, &form.DBH1, &form.BA1, &form.Spacing, &form.Age2, &form.BA2}) {
-        box->SetText("");
+    for (TextBox* box : {&form.Age1, &form.DBH1, &form.BA1, &form.Spacing, &form.Age2, &form.BA2})
         box->SetVisible(true);
-    }
     for (Label* label : {&form.BA1_lbl, &form.Spac1_lbl, &form.Age2_lbl, &form.BA2_lbl,
                          &form.Step7_BA1, &form.Step7_Spac, &form.Step7_Age2, &form.Step7_BA2})
         label->SetVisible(true);
@@ -71,16 +74,14 @@ void ResetInput(RunDefinition& run) {
     run.record = RunRecord{};
     run.globals.UnitSystem.clear();
 
+    EmptyFields(form);
     Choose(form.Choose_Swd, form.Choose_Hwd);
     Choose(form.choose_Metric, form.choose_Imperial);
     ApplyStep1(run);
     Choose(form.chkNat, form.chkPlant);
-    form.spac1.SetText("");
-    form.spac2.SetText("");
     ApplyStep2(run);
     ResetSpecies(run);
     ResetSite(run);
-    form.Stocking_Index.SetText("");
     ApplyStep5(run);
     ResetRotation(run);
     ResetTreatments(run);

@@ -48,6 +48,12 @@ TEST(Val, GivesNoNegativeZero) {
 
 TEST(Val, OverflowsBeyond64Bits) {
     EXPECT_ERROR(6, Val(std::string(400, '9')));
+    EXPECT_ERROR(6, Val("-" + std::string(400, '9') + ".5"));
+}
+
+TEST(Val, TakesWhatIsTooSmallForZero) {
+    EXPECT_EQ(Val("0." + std::string(400, '0') + "1"), 0);
+    EXPECT_EQ(Val("-." + std::string(400, '0') + "1"), 0);
 }
 
 TEST(DefaultText, IsTheShortestFormWithoutForcedDecimals) {
