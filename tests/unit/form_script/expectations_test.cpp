@@ -155,6 +155,14 @@ TEST_F(ExpectationsTest, LookAtWhatDialogsAndTheOpenerGot) {
     EXPECT_FALSE(Run("expect dialog open \"Text|*.txt\"\n"));
 }
 
+TEST_F(ExpectationsTest, TakeAnOpenedDocumentByItsPathAlone) {
+    host.Recorded().opened = {"https://example.org/a/page1.htm", "https://example.org/a/page1.htm",
+                              "https://example.org/a/page1.htm"};
+    EXPECT_TRUE(Run("expect opened /a/page1.htm\n")) << errors.str();
+    EXPECT_FALSE(Run("expect opened /a/page2.htm\n"));
+    EXPECT_FALSE(Run("expect opened page1.htm\n"));
+}
+
 TEST_F(ExpectationsTest, LookIntoFilesByteByByte) {
     folder.Write("out.txt", "one\r\ntwo\r\n");
     EXPECT_TRUE(

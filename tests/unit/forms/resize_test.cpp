@@ -70,6 +70,15 @@ TEST_F(ResizeTest, OverwritesWhatWasMovedSinceTheLastResize) {
     EXPECT_EQ(button.GetPlace(), (Place{2000, 600, 4000, 400}));
 }
 
+TEST_F(ResizeTest, TakesTheLayoutOfTheFirstShowingForItsBase) {
+    form.onResize = [&] { resize.ResizeForm(form); };
+    button.SetPlace({2000, 600, 2000, 400});
+    form.Show();
+    button.SetPlace({0, 0, 10, 10});
+    form.SetClientSize({20000, 10000});
+    EXPECT_EQ(button.GetPlace(), (Place{4000, 1200, 4000, 800}));
+}
+
 TEST_F(ResizeTest, TakesTheBaseOfALaterControlFromItsFirstResize) {
     resize.ResizeForm(form);
     Button late(form, "late", "", {100, 100, 100, 100});

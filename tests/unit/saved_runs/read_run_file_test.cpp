@@ -1,10 +1,10 @@
 // Opening: what becomes of files that are not as the writer makes them, and of saved treatments.
 #include "run_definition/reset.h"
+#include "unit/platform/ordinary_user.h"
 #include "unit/saved_runs/saved_testing.h"
 
 #include <filesystem>
 #include <ostream>
-#include <unistd.h>
 
 namespace arbolith {
 namespace {
@@ -125,9 +125,9 @@ TEST_F(ReadRunFileTest, TellsAFolderInTheFilesPlace) {
 }
 
 TEST_F(ReadRunFileTest, TellsAFileThatMustNotBeRead) {
-    if (geteuid() == 0) GTEST_SKIP() << "nothing is refused to root";
     folder.Write("stand.qvn", Joined(PineFile()));
     std::filesystem::permissions(folder.PathOf("stand.qvn"), std::filesystem::perms::none);
+    const OrdinaryUser user(folder);
     ReadRunFile(saved, folder.PathOf("stand.qvn"));
     ASSERT_EQ(host.boxes.size(), 1u);
     EXPECT_EQ(host.boxes[0].text, kLoadFailed);
@@ -165,6 +165,33 @@ TEST_F(ReadRunFileTest, EndsSilentlyAtANumberThatDoesNotFitAndFreesItsNumber) {
         Read(PineFile());
         EXPECT_NE(saved.RunFilePath, "") << text;
     }
+}
+
+TEST_F(ReadRunFileTest, CanBeResetFromNumbersThatFitNothing) {
+    const std::string nines(400, '9');
+    for (const auto& [line, text] :
+         {std::pair<std::size_t, std::string>{2, "No,Yes," + nines + ",2.0,0"},
+          {6, "0," + nines}}) {
+        auto lines = PineFile();
+        lines[line] = text;
+        Read(lines);
+        EXPECT_EQ(form.spac1.Text() + form.txtRotDBH.Text(), nines) << line;
+        person.Click(form.Clear);
+        EXPECT_TRUE(host.boxes.empty()) << line;
+        EXPECT_EQ(form.spac1.Text() + form.txtRotDBH.Text(), "") << line;
+        EXPECT_TRUE(form.chkNat.Value() && form.Step6_opt1.Value()) << line;
+        Read(PineFile());
+        EXPECT_NE(saved.RunFilePath, "") << line;
+    }
+}
+
+TEST_F(ReadRunFileTest, TakesWhatIsTooSmallForZero) {
+    auto lines = PineFile();
+    lines[4] = "0." + std::string(400, '0') + "1,6";
+    Read(lines);
+    EXPECT_EQ(run.record.LC, 6);
+    EXPECT_TRUE(form.choose_Land.Value());
+    EXPECT_NE(saved.RunFilePath, "");
 }
 
 TEST_F(ReadRunFileTest, StartsTheModelOnceForATreatmentAndLosesItsAmount) {

@@ -1,11 +1,11 @@
 // Saving: what happens to the file, the run's flags and the person when a file can or can't be
 // written.
+#include "unit/platform/ordinary_user.h"
 #include "unit/saved_runs/saved_testing.h"
 
 #include <csignal>
 #include <filesystem>
 #include <sys/resource.h>
-#include <unistd.h>
 
 namespace arbolith {
 namespace {
@@ -94,12 +94,13 @@ TEST_F(WriteRunFileTest, FailsSilentlyWhileItsNumberIsInUseAndFreesIt) {
 }
 
 TEST_F(WriteRunFileTest, TellsAFileThatMustNotBeWritten) {
-    if (geteuid() == 0) GTEST_SKIP() << "nothing is refused to root";
     std::filesystem::permissions(folder.PathOf("stand.qvn"), std::filesystem::perms::owner_read);
+    const OrdinaryUser user(folder);
     Write(folder.PathOf("stand.qvn"));
     ASSERT_EQ(host.boxes.size(), 1u);
     EXPECT_EQ(host.boxes[0].text, kSaveFailed);
     EXPECT_EQ(folder.Read("stand.qvn"), Joined(PineFile()));
+    ExpectNotSaved();
 }
 
 TEST_F(WriteRunFileTest, FailsSilentlyForANameThatNoFileCanHave) {
