@@ -41,7 +41,7 @@ public:
             return Work();
         } catch (const Failure&) {
             // All else may have followed from this.
-            session_.Folder().RequireRoom();
+            session_.Folder().RequireRoom(request_.file);
             throw;
         }
     }

@@ -91,7 +91,7 @@ public:
             return Work();
         } catch (const Failure&) {
             // All else may have followed from this.
-            session_.Folder().RequireRoom();
+            session_.Folder().RequireRoom(request_.file);
             throw;
         }
     }
@@ -212,7 +212,7 @@ private:
         session_.host.report =
             FileChoice{path, format_ == Format::kHtml ? kHtmlFilter : kTextFilter};
         session_.Click(form.Save_Mnu);
-        auto report = ReadWholeFile(path);
+        auto report = std::filesystem::exists(path) ? ReadWholeFile(path) : "";
         RequireWhole(report, form.Table.Rows() - kFirstDataRow);
         return report;
     }

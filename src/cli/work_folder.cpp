@@ -4,7 +4,7 @@
 #include "platform/whole_file.h"
 
 #include <cerrno>
-#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
@@ -16,7 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // What the exchange of one stand takes, generously.
-constexpr std::size_t kRoom = 1 << 16;
+constexpr std::uintmax_t kRoomForOne = 1 << 16;
 
 // What other runs have left, or are at work with.
 bool IsExchangeFile(const std::string& name) {
@@ -29,7 +29,8 @@ std::string NewFolder() {
     if (failed)
         throw Failure{ExitStatus::kCannotWrite,
                       "there is no folder for temporary files: " + failed.message()};
-    auto path = (parent / "arbolith-XXXXXX").string();
+    // A model starts in another folder than a relative one counts from.
+    auto path = (fs::absolute(parent) / "arbolith-XXXXXX").string();
     if (mkdtemp(path.data()) == nullptr)
         throw Failure{ExitStatus::kCannotWrite,
                       parent.string() + ": " + std::generic_category().message(errno)};
@@ -56,9 +57,12 @@ WorkFolder::~WorkFolder() {
     RemoveFolder(path_);
 }
 
-void WorkFolder::RequireRoom() const {
+void WorkFolder::RequireRoom(const std::string& request) const {
+    std::error_code ignored;
+    const auto size = fs::file_size(request, ignored);
+    const auto room = kRoomForOne + (ignored ? 0 : size);
     try {
-        ReplaceWholeFile(PathOf("_room"), std::string(kRoom, ' '));
+        ReplaceWholeFile(PathOf("_room"), std::string(room, ' '));
     } catch (const std::system_error& error) {
         throw Failure{ExitStatus::kCannotWrite, path_ + ": " + error.code().message()};
     }

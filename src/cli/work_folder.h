@@ -19,8 +19,8 @@ public:
     WorkFolder& operator=(const WorkFolder&) = delete;
 
     const std::string& Path() const { return path_; }
-    /// Throws a Failure where nothing can be written there any more.
-    void RequireRoom() const;
+    /// Throws a Failure where what comes of the request's file can't be written there any more.
+    void RequireRoom(const std::string& request) const;
     std::string PathOf(const std::string& name) const { return path_ + "/" + name; }
     /// Where a report is put together. No link stands in this place.
     std::string ReportPath() const { return PathOf("_REPORT.TMP"); }

@@ -55,6 +55,14 @@ TEST_F(OutputOfRuns, NoRoomForTemporaryFoldersIsTold) {
     EXPECT_TRUE(ended.errors.starts_with("arbolith-cli: there is no folder for temporary files"));
 }
 
+TEST_F(OutputOfRuns, ARelativeFolderForTemporaryOnesWillDo) {
+    std::filesystem::create_directory(work.PathOf("here"));
+    temporary = "here";
+    const auto ended = Run({"run", "stand.qvn"});
+    EXPECT_EQ(ended.status, 0) << ended.errors;
+    EXPECT_TRUE(std::filesystem::is_empty(work.PathOf("here")));
+}
+
 // The limit on the size of a file stands for a full disk; what the test reads is smaller.
 TEST_F(OutputOfRuns, AFullFolderForTemporaryOnesIsTold) {
     work.Write("stands.qvb", BatchText({SequenceLine("1", "S")}));
