@@ -1,15 +1,14 @@
 #include "platform/whole_file.h"
 
+#include "unit/platform/full_disk.h"
 #include "unit/platform/ordinary_user.h"
 #include "unit/platform/temporary_folder.h"
 
 #include <cerrno>
-#include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <string>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -44,27 +43,6 @@ int FailureOf(Work work) {
 long FilesIn(const std::string& folder) {
     return std::distance(std::filesystem::directory_iterator(folder), {});
 }
-
-// While it lives no file can grow beyond some bytes, as on a full disk; the signal is held back.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) {
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit small{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-        handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit before_{};
-    void (*handler_)(int) = nullptr;
-};
 
 }  // namespace
 

@@ -1,11 +1,10 @@
 // Saving: what happens to the file, the run's flags and the person when a file can or can't be
 // written.
+#include "unit/platform/full_disk.h"
 #include "unit/platform/ordinary_user.h"
 #include "unit/saved_runs/saved_testing.h"
 
-#include <csignal>
 #include <filesystem>
-#include <sys/resource.h>
 
 namespace arbolith {
 namespace {
@@ -26,27 +25,6 @@ protected:
     }
 };
 
-// Files can't become larger than a few bytes while one of these lives.
-class FullDisk {
-public:
-    FullDisk() : before_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &limit_);
-        rlimit small = limit_;
-        small.rlim_cur = 50;
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &limit_);
-        std::signal(SIGXFSZ, before_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    void (*before_)(int);
-    rlimit limit_{};
-};
-
 TEST_F(WriteRunFileTest, WritesTheLinesAndBindsTheRun) {
     Write(folder.PathOf("other.qvn"));
     const auto text = folder.Read("other.qvn");
@@ -58,7 +36,7 @@ TEST_F(WriteRunFileTest, WritesTheLinesAndBindsTheRun) {
 
 TEST_F(WriteRunFileTest, LeavesTheOldFileWhenTheDiskIsFull) {
     {
-        const FullDisk full;
+        const FullDisk full(50);
         Write(folder.PathOf("stand.qvn"));
     }
     EXPECT_TRUE(host.boxes.empty());
