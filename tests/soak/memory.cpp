@@ -4,7 +4,8 @@
 #include <malloc.h>
 #include <unistd.h>
 #if defined(__SANITIZE_ADDRESS__)
-#include <sanitizer/allocator_interface.h>
+// The sanitizer's own count; the compiler's package brings no header for it.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace arbolith {
