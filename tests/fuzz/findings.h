@@ -6,7 +6,8 @@
 namespace arbolith {
 
 /// From here on the current input is written into the folder when the program crashes, a sanitizer
-/// reports, Require fails, or an input takes longer than the seconds given.
+/// reports, Require fails, or an input takes longer than the seconds given, counted in its own
+/// computing time.
 void WatchForFailures(const std::string& folder, unsigned secondsPerInput);
 
 /// The input that the next failure belongs to; it must outlive its run.
