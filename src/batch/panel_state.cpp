@@ -1,7 +1,7 @@
 // What can be used on the batch panel, by the two file names and the selected row.
 #include "batch/batch.h"
+#include "platform/file_names.h"
 
-#include <filesystem>
 #include <initializer_list>
 
 namespace arbolith {
@@ -9,9 +9,6 @@ namespace arbolith {
 namespace {
 
 constexpr std::size_t kPrefixLength = 3;
-// What no file name holds. Of the two slashes the one that parts this system's folders is allowed.
-constexpr std::string_view kRefusedCharacters =
-    std::filesystem::path::preferred_separator == '/' ? "\\?\":*|<>" : "/?\":*|<>";
 
 bool IsLetter(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');

@@ -1,6 +1,7 @@
 #include "platform/numbered_files.h"
 
 #include "platform/file_error.h"
+#include "platform/file_names.h"
 #include "platform/item_reader.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
@@ -47,7 +48,7 @@ std::FILE* OpenToOverwrite(const std::string& path) {
 
 bool NameCanBeCreated(const std::string& path) {
     const auto name = std::filesystem::path(path).filename().string();
-    return name.find_first_of("?\":*|<>") == std::string::npos;
+    return name.find_first_of(kRefusedCharacters) == std::string::npos;
 }
 
 }  // namespace
