@@ -160,19 +160,26 @@ double Chart::Maximum(int axis) const {
 }
 
 AxisScale Chart::DrawnScale(int axis) const {
-    const auto& told = Axis(axis).Scale;
     const bool isXy = type_ == Type::kXyScatter;
-    if (axis == kAxisX && !isXy) return DrawnScaleOf(told, 0, RowCount());
-    // Bars stand on 0. A scatter chart's X and Y values take turns.
-    double lowest = isXy ? std::numeric_limits<double>::infinity() : 0;
+    double lowest = std::numeric_limits<double>::infinity();
     double highest = -lowest;
-    const int first = isXy && axis != kAxisX ? 2 : 1;
-    for (const auto& row : data_)
-        for (int column = first; column <= ColumnCount(); column += isXy ? 2 : 1) {
-            lowest = std::min(lowest, row[At(column)]);
-            highest = std::max(highest, row[At(column)]);
-        }
-    return DrawnScaleOf(told, lowest, highest);
+    const auto take = [&](double value) {
+        lowest = std::min(lowest, value);
+        highest = std::max(highest, value);
+    };
+    if (isXy) {
+        // X and Y values take turns.
+        for (const auto& row : data_)
+            for (int column = axis == kAxisX ? 1 : 2; column <= ColumnCount(); column += 2)
+                take(row[At(column)]);
+    } else if (axis == kAxisX) {
+        for (const auto& label : rowLabels_) take(NumberIn(label));
+    } else {
+        take(0);  // what bars stand on
+        for (const auto& row : data_)
+            for (const double value : row) take(value);
+    }
+    return DrawnScaleOf(Axis(axis).Scale, lowest, highest);
 }
 
 void Chart::SetTitle(const ChartTitle& title) {

@@ -109,7 +109,8 @@ public:
     /// those that are drawn.
     double Minimum(int axis) const;
     double Maximum(int axis) const;
-    /// How the axis is drawn.
+    /// How the axis is drawn. The X axis of bars keeps the values that label their rows, as in the
+    /// scatter chart of the same data, although the bars stand evenly beside each other.
     AxisScale DrawnScale(int axis) const;
 
     const ChartTitle& GetTitle() const { return title_; }
