@@ -36,7 +36,7 @@ const DefinitionTerm& TermOf(const std::string& key) {
 }  // namespace
 
 Definitions::Definitions(Application& application, const Globals& globals)
-    : Form(application, "Help_defin", kCaption, {12480, 6360}), globals_(globals) {}
+    : Form(application, "Help_defin", kCaption, {12480, 6780}), globals_(globals) {}
 
 void Definitions::ShowVariableTerms() {
     Fill(*this, kVariableTerms);

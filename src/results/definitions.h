@@ -24,11 +24,11 @@ struct Definitions : Form {
 
     Label defin1{*this, "defin1", "List of terms:", {120, 120, 6600, 285}};
     ListBox definition_list{
-        *this, "definition_list", {120, 480, 6600, 5760}, {.columns = {{0, true}, {1080, true}}}};
+        *this, "definition_list", {120, 480, 6600, 6180}, {.columns = {{0, true}, {165, true}}}};
     Label defin2{*this, "defin2", "Definition:", {6960, 120, 5400, 285}};
     Label definTitle{
         *this, "definTitle", "", {6960, 480, 5400, 480}, {.wraps = true, .bold = true}};
-    Label definition{*this, "definition", "", {6960, 1080, 5400, 5160}, {.wraps = true}};
+    Label definition{*this, "definition", "", {6960, 1080, 5400, 5580}, {.wraps = true}};
 
 private:
     const Globals& globals_;

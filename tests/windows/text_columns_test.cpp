@@ -1,5 +1,6 @@
 #include "qt/text_columns.h"
 
+#include "results/definitions.h"
 #include "window_test.h"
 
 #include <QListView>
@@ -124,6 +125,25 @@ TEST_F(TextColumnsTest, AreCutAtTheEndOfTheLine) {
     Do([&] { form.list.ReplaceItem(0, std::string(200, 'M')); });
     auto& list = WidgetOf<QListView>(form.list);
     EXPECT_FALSE(list.horizontalScrollBar()->isVisible());
+}
+
+TEST_F(TextColumnsTest, ShowTheTermsOfTheDefinitionsWithTheirLabels) {
+    const Globals globals{"Metric"};
+    Definitions definitions(application, globals);
+    definitions.ShowVariableTerms();
+    Open(definitions);
+    auto& list = WidgetOf<QListView>(definitions.definition_list);
+    for (int row = 0; row < list.model()->rowCount(); ++row) {
+        const QRect line = list.visualRect(list.model()->index(row, 0));
+        EXPECT_TRUE(list.viewport()->rect().contains(line.center())) << row;
+        const auto ink = InkIn(*list.viewport(), line);
+        ASSERT_FALSE(ink.empty()) << row;
+        const int begin = list.viewport()->mapTo(list.window(), line.topLeft()).x();
+        EXPECT_LT(ink.front(), begin + line.width() / 10) << row;
+        EXPECT_GT(ink.back(), begin + line.width() / 3) << row;
+        // Nothing is cut.
+        EXPECT_LT(ink.back(), begin + line.width() * 19 / 20) << row;
+    }
 }
 
 }  // namespace arbolith
