@@ -28,6 +28,8 @@ constexpr double kBarWidth = 0.8;
 constexpr double kPlainBar = 6;
 // Divisions nearer to each other than this are not drawn, in pixels.
 constexpr double kNarrowest = 4;
+constexpr double kMajorTick = 5;
+constexpr double kMinorTick = 3;
 // Between the shapes on a line that has many points, in pixels.
 constexpr double kBetweenShapes = 12;
 // A point farther outside the plot than this is not on it.
@@ -105,8 +107,7 @@ DrawnChart::DrawnChart(double textFactor)
     setMargins({});
     legend()->hide();
     for (QValueAxis* axis : {xAxis_, yAxis_}) {
-        axis->setLabelsVisible(false);
-        axis->setLinePen(QPen(kAxisColour, 1));
+        axis->setVisible(false);
         addAxis(axis, axis == xAxis_ ? Qt::AlignBottom : Qt::AlignLeft);
     }
 }
@@ -131,26 +132,13 @@ void DrawnChart::resizeEvent(QGraphicsSceneResizeEvent* event) {
 void DrawnChart::LayOutAnew() {
     layout_ = LayOut(plot_, size(), textFactor_);
     setPlotArea(layout_.plot);
-    DrawAxis(*xAxis_, plot_.x, plot_.xLines, layout_.plot.width());
-    DrawAxis(*yAxis_, plot_.y, plot_.yLines, layout_.plot.height());
+    xAxis_->setRange(plot_.x.minimum, plot_.x.maximum);
+    yAxis_->setRange(plot_.y.minimum, plot_.y.maximum);
     layout()->activate();
+    if (plot_.hasBars && bars_ != nullptr) DrawBarEdges();
     PutTexts();
     ground_->Changed();
     marks_->Changed();
-}
-
-void DrawnChart::DrawAxis(QValueAxis& axis, const AxisScale& scale, const ChartAxis& lines,
-                          double length) {
-    const bool hasRoom = length / scale.majorDivisions >= kNarrowest;
-    const bool hasMinor =
-        hasRoom && length / scale.majorDivisions / scale.minorDivisions >= kNarrowest;
-    axis.setRange(scale.minimum, scale.maximum);
-    axis.setTickCount(hasRoom ? scale.majorDivisions + 1 : 2);
-    axis.setMinorTickCount(hasMinor ? scale.minorDivisions - 1 : 0);
-    axis.setGridLineVisible(lines.MajorPen != PenStyle::kNone);
-    axis.setGridLinePen(PenOf(lines.MajorPen, kGridColour));
-    axis.setMinorGridLineVisible(lines.MinorPen != PenStyle::kNone);
-    axis.setMinorGridLinePen(PenOf(lines.MinorPen, kGridColour));
 }
 
 void DrawnChart::PutTexts() {
@@ -202,14 +190,19 @@ void DrawnChart::DrawBars() {
     for (std::size_t i = 0; i < plot_.series.size(); ++i) {
         auto* bars = new QBarSet(plot_.series[i].name, bars_);
         for (const QPointF& point : plot_.series[i].points) *bars << point.y();
-        const double width = BarOf(i, 1).width();
         bars->setBrush(LookOfSeries(static_cast<int>(i)).barFill);
-        bars->setPen(QPen(plot_.barEdge, std::min(1.0, width / kPlainBar)));
         bars_->append(bars);
     }
+    DrawBarEdges();
     addSeries(bars_);
     bars_->attachAxis(xAxis_);
     bars_->attachAxis(yAxis_);
+}
+
+void DrawnChart::DrawBarEdges() {
+    const double width = plot_.series.empty() ? 0 : BarOf(0, 1).width();
+    for (QBarSet* bars : bars_->barSets())
+        bars->setPen(QPen(plot_.barEdge, std::min(1.0, width / kPlainBar)));
 }
 
 QPointF DrawnChart::Mapped(QPointF value) const {
@@ -238,9 +231,36 @@ QRectF DrawnChart::BarOf(std::size_t series, int row) const {
 
 void DrawnChart::PaintGround(QPainter& painter) const {
     if (plot_.backdrop.isValid()) painter.fillRect(rect(), plot_.backdrop);
-    if (!plot_.hasWall) return;
+    const QRectF& plot = layout_.plot;
+    const QLineF right(plot.bottomLeft(), plot.bottomRight());
+    const QLineF up(plot.bottomLeft(), plot.topLeft());
+    PaintAxis(painter, right, up, plot_.x, plot_.xLines);
+    PaintAxis(painter, up, right, plot_.y, plot_.yLines);
     painter.setPen(QPen(kAxisColour, 1));
-    painter.drawRect(layout_.plot);
+    painter.drawPolyline(QPolygonF({plot.topLeft(), plot.bottomLeft(), plot.bottomRight()}));
+    if (plot_.hasWall) painter.drawRect(plot);
+}
+
+// The lines of the grid and the ticks at an axis's divisions, without the axis itself. `across` is
+// the other axis. The toolkit's own axes would not follow a plot that gets another size.
+void DrawnChart::PaintAxis(QPainter& painter, const QLineF& axis, const QLineF& across,
+                           const AxisScale& scale, const ChartAxis& lines) {
+    const double length = axis.length();
+    const int majors = length / scale.majorDivisions >= kNarrowest ? scale.majorDivisions : 1;
+    const bool hasMinor = length / scale.majorDivisions / scale.minorDivisions >= kNarrowest;
+    const int minors = hasMinor ? scale.minorDivisions : 1;
+    for (int i = 0; i <= majors * minors; ++i) {
+        const bool isMajor = i % minors == 0;
+        // By whole pixels from the end, which lies in the middle of one.
+        const double share = std::round(length * i / (majors * minors)) / std::max(length, 1.0);
+        const QPointF along = axis.pointAt(share) - axis.p1();
+        painter.setPen(PenOf(isMajor ? lines.MajorPen : lines.MinorPen, kGridColour));
+        painter.drawLine(across.translated(along));
+        QLineF tick = across.translated(along);
+        tick.setLength(isMajor ? -kMajorTick : -kMinorTick);
+        painter.setPen(QPen(kAxisColour, 1));
+        painter.drawLine(tick);
+    }
 }
 
 void DrawnChart::PaintMarks(QPainter& painter) const {

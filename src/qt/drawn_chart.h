@@ -1,5 +1,6 @@
-// A chart as it is drawn, on a screen as well as on paper. The toolkit draws the grid, the lines
-// and the bars; the points on the lines, the texts around the plot and the legend are drawn here.
+// A chart as it is drawn, on a screen as well as on paper. The toolkit draws the lines and the
+// bars; the axes with their grid, the points on the lines, the texts around the plot and the legend
+// are drawn here.
 #pragma once
 
 #include "qt/chart_layout.h"
@@ -45,8 +46,10 @@ private:
     void DrawData();
     void DrawLines();
     void DrawBars();
-    void DrawAxis(QValueAxis& axis, const AxisScale& scale, const ChartAxis& lines, double length);
+    void DrawBarEdges();
     void PaintGround(QPainter& painter) const;
+    static void PaintAxis(QPainter& painter, const QLineF& axis, const QLineF& across,
+                          const AxisScale& scale, const ChartAxis& lines);
     void PaintMarks(QPainter& painter) const;
     void PaintPoints(QPainter& painter) const;
     void PaintLegend(QPainter& painter) const;

@@ -193,6 +193,44 @@ TEST_F(ChartViewTest, ItFollowsTheSizeOfItsControl) {
     EXPECT_LT(Drawn().Layout().plot.right(), 300);
 }
 
+TEST_F(ChartViewTest, ItLooksTheSameWhateverSizeItHadBefore) {
+    const auto fill = [](Chart& chart, bool asBars) {
+        asBars ? FillBars(chart, 3, 8) : FillScatter(chart, 3, 16);
+    };
+    for (const bool asBars : {false, true})
+        for (const Place place : {Place{150, 150, 4500, 3600}, Place{150, 150, 12000, 9000}}) {
+            Do([&] {
+                form.chart.SetPlace({150, 150, 8700, 7200});
+                fill(form.chart, asBars);
+            });
+            Do([&] { form.chart.SetPlace(place); });
+            ChartForm other(application);
+            other.chart.SetPlace(place);
+            fill(other.chart, asBars);
+            Open(other);
+            auto& fresh = WidgetOf<ChartView>(other.chart);
+            EXPECT_EQ(View().grab().toImage(), fresh.grab().toImage())
+                << asBars << ", " << place.width;
+        }
+}
+
+TEST_F(ChartViewTest, TheAxesHaveTicksAtTheirDivisions) {
+    Do([&] {
+        form.chart.ChangeAxis(Chart::kAxisY, [](ChartAxis& axis) {
+            axis.Scale = {false, 0, 100, 4, 2};
+        });
+    });
+    const QRectF plot = Drawn().Layout().plot;
+    const auto tickAt = [&](double share) {
+        return CountDrawn({plot.left() - 6, plot.bottom() - share * plot.height() - 1.5, 5, 3});
+    };
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_GT(tickAt(i / 4.0), tickAt((i + 0.5) / 4)) << i;
+        EXPECT_GT(tickAt((i + 0.5) / 4), 0) << i;
+        EXPECT_EQ(tickAt((i + 0.25) / 4), 0) << i;
+    }
+}
+
 TEST_F(ChartViewTest, WhatAScreenReaderTellsIsTheTitle) {
     EXPECT_EQ(View().accessibleName(), "Chart");
     EXPECT_EQ(View().accessibleDescription(),
