@@ -15,6 +15,7 @@ namespace {
 // differ in lightness as well.
 constexpr std::array<QRgb, 8> kColours = {0xFF0060A8, 0xFFD55E00, 0xFF1B8A3C, 0xFF000000,
                                           0xFFB8468C, 0xFF8A5A00, 0xFF2AA0C8, 0xFF6A3FB5};
+constexpr int kColourCount = static_cast<int>(kColours.size());
 // Every later round of the colours begins elsewhere, so that a shape comes back in another colour.
 constexpr int kColourStep = 3;
 
@@ -75,22 +76,23 @@ QPainterPath Shape(int shape) {
     }
 }
 
-// Each round of the colours is lighter or darker than the one before.
-QColor BarColour(QColor colour, int round) {
-    constexpr std::array<double, 3> kWhite = {0.15, 0.6, 0.0};
-    constexpr std::array<double, 3> kBlack = {0.0, 0.0, 0.45};
-    const auto at = static_cast<std::size_t>(round) % kWhite.size();
-    const auto mix = [&](int channel) {
-        const double lit = channel + (255 - channel) * kWhite[at];
-        return static_cast<int>(std::lround(lit * (1 - kBlack[at])));
+// Side by side a dark, a middle and a light one, so that few bars can be told apart on a print
+// without colours. Every round of the colours begins with another lightness.
+QColor BarColour(int series) {
+    constexpr std::array<double, 3> kWhite = {0.0, 0.25, 0.7};
+    const int inRound = series % kColourCount;
+    const double white =
+        kWhite[static_cast<std::size_t>(inRound + series / kColourCount) % kWhite.size()];
+    const auto lit = [&](int channel) {
+        return static_cast<int>(std::lround(channel + (255 - channel) * white));
     };
-    return {mix(colour.red()), mix(colour.green()), mix(colour.blue())};
+    const QColor colour = QColor::fromRgb(kColours[static_cast<std::size_t>(inRound)]);
+    return {lit(colour.red()), lit(colour.green()), lit(colour.blue())};
 }
 
 }  // namespace
 
 SeriesLook LookOfSeries(int series) {
-    constexpr int kColourCount = static_cast<int>(kColours.size());
     const int round = series / kColourCount;
     const QColor colour = QColor::fromRgb(
         kColours[static_cast<std::size_t>((series + round * kColourStep) % kColourCount)]);
@@ -101,7 +103,7 @@ SeriesLook LookOfSeries(int series) {
     look.point = Shape(series % kShapes);
     // Empty shapes in every other round.
     look.pointFill = round % 2 == 0 ? QBrush(colour) : QBrush(Qt::white);
-    look.barFill = BarColour(colour, round);
+    look.barFill = BarColour(series);
     return look;
 }
 

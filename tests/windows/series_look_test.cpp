@@ -49,6 +49,13 @@ TEST(SeriesLook, NoTwoBarsOf24HaveTheSameColour) {
             EXPECT_NE(LookOfSeries(a).barFill, LookOfSeries(b).barFill) << a << " and " << b;
 }
 
+TEST(SeriesLook, LightnessAloneTellsAFewBarsApart) {
+    const auto grey = [](int series) { return qGray(LookOfSeries(series).barFill.color().rgb()); };
+    for (int a = 0; a < 3; ++a)
+        for (int b = 0; b < a; ++b) EXPECT_GE(std::abs(grey(a) - grey(b)), 40) << a << " and " << b;
+    for (int i = 1; i < 6; ++i) EXPECT_GE(std::abs(grey(i) - grey(i - 1)), 25) << i;
+}
+
 TEST(SeriesLook, LinesStandOutFromWhite) {
     for (int i = 0; i < kSeries; ++i) EXPECT_GE(Contrast(LookOfSeries(i).line.color()), 3) << i;
 }
