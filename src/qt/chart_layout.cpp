@@ -49,6 +49,20 @@ int Thinning(double spacing, double needed) {
     return 1'000'000;
 }
 
+// As many words in each line as fit.
+QStringList Filled(const QString& text, const QFontMetricsF& metrics, double width) {
+    QStringList lines;
+    for (const QString& word : text.split(u' ', Qt::SkipEmptyParts)) {
+        const QString longer = lines.isEmpty() ? word : lines.last() + u' ' + word;
+        if (!lines.isEmpty() && metrics.horizontalAdvance(longer) <= width) {
+            lines.last() = longer;
+        } else {
+            lines << word;
+        }
+    }
+    return lines;
+}
+
 class Layouter {
 public:
     Layouter(const Plot& plot, QSizeF sheet, double factor, Contents contents)
@@ -227,14 +241,12 @@ private:
 
 QStringList Wrapped(const QString& text, const QFont& font, double width) {
     const QFontMetricsF metrics(font);
-    QStringList lines;
-    for (const QString& word : text.split(u' ', Qt::SkipEmptyParts)) {
-        const QString longer = lines.isEmpty() ? word : lines.last() + u' ' + word;
-        if (!lines.isEmpty() && metrics.horizontalAdvance(longer) <= width) {
-            lines.last() = longer;
-        } else {
-            lines << word;
-        }
+    QStringList lines = Filled(text, metrics, width);
+    // Lines that are full but for the last need at least half of the width when they are even.
+    for (int percent = 95; lines.size() > 1 && percent >= 50; percent -= 5) {
+        const QStringList narrower = Filled(text, metrics, width * percent / 100);
+        if (narrower.size() > lines.size()) break;
+        lines = narrower;
     }
     return lines;
 }

@@ -31,7 +31,8 @@ struct ChartLayout {
 /// be. On a sheet too small for all of it the legend goes first, then the titles.
 ChartLayout LayOut(const Plot& plot, QSizeF sheet, double textFactor);
 
-/// The text broken at blanks into lines that are no wider than told, where its words allow.
+/// The text broken at blanks into as few lines as are no wider than told, where its words allow,
+/// and these about equally long.
 QStringList Wrapped(const QString& text, const QFont& font, double width);
 
 }  // namespace arbolith

@@ -175,4 +175,14 @@ TEST(Wrapped, LinesBreakAtBlanksOnly) {
     EXPECT_TRUE(Wrapped("", font, 1000).isEmpty());
 }
 
+TEST(Wrapped, LinesAreAboutEquallyLong) {
+    const QFont font("Arial", 14);
+    const QFontMetricsF metrics(font);
+    const QString text("mmmm mmmm mmmm mmmm mmmm mmmm");
+    const double five = metrics.horizontalAdvance(text.left(24));
+    EXPECT_EQ(Wrapped(text, font, five + 1), (QStringList{"mmmm mmmm mmmm", "mmmm mmmm mmmm"}));
+    const double two = metrics.horizontalAdvance(text.left(9));
+    EXPECT_EQ(Wrapped(text, font, two + 1).size(), 3);
+}
+
 }  // namespace arbolith
