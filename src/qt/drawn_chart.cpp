@@ -21,7 +21,7 @@ namespace {
 // Above everything that the toolkit draws, and negative below it.
 constexpr double kTopZ = 1000;
 const QColor kAxisColour(0x40, 0x40, 0x40);
-const QColor kGridColour(0xA8, 0xA8, 0xA8);
+const QColor kGridColour(0x98, 0x98, 0x98);
 // A row's share that its bars take.
 constexpr double kBarWidth = 0.8;
 // Bars that are narrower than this get a finer edge.
@@ -41,6 +41,13 @@ constexpr double kReach = 8;
 constexpr double kSamePoint = 1;
 constexpr double kSameBar = 0.5;
 
+// Dots without caps, each on a pixel of its own where the line begins in the middle of one.
+QPen DottedPen(const QColor& colour) {
+    QPen pen(colour, 1, Qt::DotLine, Qt::FlatCap);
+    pen.setDashOffset(0.5);
+    return pen;
+}
+
 QPen PenOf(PenStyle style, const QColor& colour) {
     switch (style) {
         case PenStyle::kNone:
@@ -48,7 +55,7 @@ QPen PenOf(PenStyle style, const QColor& colour) {
         case PenStyle::kDashed:
             return {colour, 1, Qt::DashLine};
         case PenStyle::kDotted:
-            return {colour, 1, Qt::DotLine};
+            return DottedPen(colour);
         case PenStyle::kSolid:
             break;
     }
