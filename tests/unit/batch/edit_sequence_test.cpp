@@ -1,3 +1,4 @@
+#include "run_definition/apply_steps.h"
 #include "run_definition/reset.h"
 #include "unit/batch/batch_testing.h"
 #include "unit/platform/expect_error.h"
@@ -26,6 +27,8 @@ protected:
 }  // namespace
 
 TEST_F(EditSequenceTest, ASpeciesThatIsNotKnownIsAskedFor) {
+    // Every species that the search comes by is selected.
+    run.form.lstSpecies.onClick = [this] { ApplyStep3(run); };
     Edit("1\tS\tY\tY\tRM\t6\t0.0\t1\t0.0\t0.0\t80\t0.0\t0\t0\t0\t0\t0\t0\t0\t100\t");
     ASSERT_EQ(host.boxes.size(), 1U);
     EXPECT_EQ(host.boxes[0].text,
