@@ -272,7 +272,7 @@ void DrawnChart::PaintAxis(QPainter& painter, const QLineF& axis, const QLineF& 
 
 void DrawnChart::PaintMarks(QPainter& painter) const {
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!plot_.hasBars) PaintPoints(painter);
+    plot_.hasBars ? PaintCutBars(painter) : PaintPoints(painter);
     PaintLegend(painter);
 }
 
@@ -291,6 +291,25 @@ void DrawnChart::PaintPoints(QPainter& painter) const {
             const QLineF outwards(place, Mapped(point));
             painter.drawPath((outwards.length() < kInside ? look.point : Arrow(outwards.angle()))
                                  .translated(place));
+        }
+    }
+}
+
+// An arrow in the end of a bar that goes on beyond the plot.
+void DrawnChart::PaintCutBars(QPainter& painter) const {
+    painter.setPen(QPen(plot_.barEdge, 1));
+    painter.setBrush(Qt::white);
+    for (std::size_t i = 0; i < plot_.series.size(); ++i) {
+        const double size = std::min(1.0, BarOf(i, 1).width() / kArrow);
+        if (size * kArrow < kNarrowest) return;
+        for (int row = 1; row <= plot_.series[i].points.size(); ++row) {
+            const double value = plot_.series[i].points[row - 1].y();
+            if (value >= plot_.y.minimum && value <= plot_.y.maximum) continue;
+            const bool isUp = value > plot_.y.maximum;
+            const QPointF end(BarOf(i, row).center().x(),
+                              isUp ? layout_.plot.top() : layout_.plot.bottom());
+            const QTransform sized = QTransform::fromScale(size, size);
+            painter.drawPath(sized.map(Arrow(isUp ? 90 : -90)).translated(end));
         }
     }
 }

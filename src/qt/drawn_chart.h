@@ -52,6 +52,7 @@ private:
                           const AxisScale& scale, const ChartAxis& lines);
     void PaintMarks(QPainter& painter) const;
     void PaintPoints(QPainter& painter) const;
+    void PaintCutBars(QPainter& painter) const;
     void PaintLegend(QPainter& painter) const;
     QPointF Mapped(QPointF value) const;
     QPointF InPlot(QPointF place) const;

@@ -314,6 +314,26 @@ TEST_F(ChartViewTest, APointOutsideTheScaleIsShownAtTheEdge) {
     EXPECT_EQ(TakePicked(), (Picked{{3, 16}}));
 }
 
+TEST_F(ChartViewTest, ABarThatIsCutOffEndsInAnArrow) {
+    Do([&] { FillBars(form.chart, 3, 8); });
+    const auto countAtTheEnd = [&](int point) {
+        const QRectF plot = Drawn().Layout().plot;
+        return Count(Qt::white, {PlaceOf(1, point).x() - 3.0, plot.top() + 2, 6, 6});
+    };
+    const double highest = form.chart.Data(8, 1);
+    const auto endAt = [&](double end) {
+        Do([&] {
+            form.chart.ChangeAxis(Chart::kAxisY,
+                                  [&](ChartAxis& axis) { axis.Scale.Maximum = end; });
+        });
+    };
+    endAt(highest / 2);
+    EXPECT_GT(countAtTheEnd(8), 4);
+    // One that just fills the plot has none.
+    endAt(highest);
+    EXPECT_EQ(countAtTheEnd(8), 0);
+}
+
 TEST_F(ChartViewTest, APointThatThereIsNotCanNotBePicked) {
     EXPECT_THROW(driver->PickPoint(form.chart, 2, 1), ActionRefused);
     EXPECT_THROW(driver->PickPoint(form.chart, 1, 17), ActionRefused);
