@@ -54,6 +54,8 @@ public:
         CreateFiles();
         WriteSequences();
         SortSequences();
+        // Models take their time: what can't be written is better known before.
+        files_.Flush(kReportFile);
         if (softwood_.any) CallModel(softwood_);
         if (hardwood_.any) CallModel(hardwood_);
         WriteReport();

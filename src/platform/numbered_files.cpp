@@ -81,13 +81,16 @@ public:
         const auto count = std::fwrite(buffer_.data(), 1, size, stream_);
         // What can't be written is let go: another try would fail as well.
         buffer_.clear();
+        written_ += count;
         if (count != size) throw RuntimeError(FileErrorOf(errno, path_));
-        written_ += size;
+    }
+    void FlushAndCut() {
+        Flush();
+        CutBehindText();
     }
     void Finish() {
         if (IsReplacement()) return Replace();
-        if (use_ != Use::kInput) Flush();
-        CutBehindText();
+        if (use_ != Use::kInput) FlushAndCut();
         auto* stream = std::exchange(stream_, nullptr);
         if (std::fclose(stream) != 0) throw RuntimeError(FileErrorOf(errno, path_));
     }
@@ -246,6 +249,10 @@ void NumberedFiles::PrintLine(int number, std::string_view text) {
     auto& file = Opened(number);
     file.Write(text);
     file.Write("\r\n");
+}
+
+void NumberedFiles::Flush(int number) {
+    Opened(number).FlushAndCut();
 }
 
 bool NumberedFiles::AtEndOfFile(int number) {

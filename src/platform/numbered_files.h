@@ -37,6 +37,9 @@ public:
     /// Writes the text and CR LF.
     void PrintLine(int number, std::string_view text);
 
+    /// Writes out what is pending: the file then holds what was written so far and nothing else.
+    void Flush(int number);
+
     /// Whether not a byte is left.
     bool AtEndOfFile(int number);
     /// The next item by the rules of ItemReader. It stands until the next read. It is read with its

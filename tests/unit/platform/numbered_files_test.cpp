@@ -4,7 +4,9 @@
 #include "unit/platform/ordinary_user.h"
 #include "unit/platform/temporary_folder.h"
 
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace arbolith {
@@ -37,6 +39,34 @@ TEST_F(NumberedFilesTest, EmptiesAnExistingFileOpenedForOutput) {
     files_.PrintLine(1, "new");
     files_.Close(1);
     EXPECT_EQ(folder_.Read("out.txt"), "new\r\n");
+}
+
+TEST_F(NumberedFilesTest, HoldsWhatWasWrittenSoFarOnceItIsFlushed) {
+    folder_.Write("out.txt", "a much longer earlier text");
+    files_.OpenForOutput(1, PathOf("out.txt"));
+    files_.PrintLine(1, "new");
+    files_.Flush(1);
+    EXPECT_EQ(folder_.Read("out.txt"), "new\r\n");
+    files_.PrintLine(1, "more");
+    files_.Close(1);
+    EXPECT_EQ(folder_.Read("out.txt"), "new\r\nmore\r\n");
+    EXPECT_ERROR(52, files_.Flush(1));
+}
+
+// The limit on the size of a file stands for a full disk.
+TEST_F(NumberedFilesTest, KeepsWhatTheDiskHasRoomFor) {
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{10, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    files_.OpenForOutput(1, PathOf("out.txt"));
+    files_.PrintLine(1, "a text that is longer");
+    EXPECT_THROW(files_.Flush(1), RuntimeError);
+    files_.CloseQuietly(1);
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(folder_.Read("out.txt"), "a text tha");
 }
 
 TEST_F(NumberedFilesTest, GoesOnBehindAnExistingFileOpenedForAppend) {
