@@ -21,7 +21,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// What the program says of results is about a window and a browser; this is told instead.
 constexpr const char* kUnusable = "the results can't be used";
+
+struct Wood {
+    std::string_view letter;
+    const char* type;
+    const char* outputName;
+};
+
+constexpr Wood kWoods[] = {{"S", "Softwood", kSoftwoodOutputName},
+                           {"H", "Hardwood", kHardwoodOutputName}};
 
 class BatchJob {
 public:
@@ -52,8 +62,7 @@ private:
         JudgeTheLines();
         ChooseReport();
         Run();
-        std::vector<CsvStand> stands;
-        session_.Do([&] { stands = TablesOf(batch_); });
+        const auto stands = Stands();
         terminal_.ClearProgress();
         Deliver(format_ == Format::kCsv ? CsvText(stands)
                                         : ReadWholeFile(session_.Folder().ReportPath()),
@@ -118,20 +127,36 @@ private:
                 StartBatch(batch_);
             });
         } catch (const Failure& failure) {
-            if (failure.message.starts_with(kUnusable)) {
-                RequireResult("S", "Softwood", kSoftwoodOutputName);
-                RequireResult("H", "Hardwood", kHardwoodOutputName);
-            }
+            if (failure.message.starts_with(kUnusable)) RefuseResults();
             throw;
         }
     }
 
-    // That a model has written nothing is better told than what came of it.
-    void RequireResult(std::string_view letter, const char* wood, const char* outputName) const {
+    std::vector<CsvStand> Stands() {
+        std::vector<CsvStand> stands;
+        try {
+            session_.Do([&] { stands = TablesOf(batch_); });
+        } catch (const Failure&) {
+            RefuseResults();
+        }
+        return stands;
+    }
+
+    [[noreturn]] void RefuseResults() const {
+        const auto& folder = session_.Folder();
+        if (!fs::exists(folder.PathOf(kPathFileName)))
+            Refuse(ExitStatus::kRefused,
+                   "its plot labels are too high: stands are numbered up to 32767");
         const auto& woods = batch_.SeqWoods;
-        const bool isCalled = std::find(woods.begin(), woods.end(), letter) != woods.end();
-        if (isCalled && !fs::exists(session_.Folder().PathOf(outputName)))
-            throw Failure{ExitStatus::kModel, ModelFileName(wood) + std::string(" left no result")};
+        std::string called;
+        for (const auto& wood : kWoods) {
+            if (std::find(woods.begin(), woods.end(), wood.letter) == woods.end()) continue;
+            const std::string model = ModelFileName(wood.type);
+            if (!fs::exists(folder.PathOf(wood.outputName)))
+                throw Failure{ExitStatus::kModel, model + " left no result"};
+            called += (called.empty() ? "" : " or ") + model;
+        }
+        throw Failure{ExitStatus::kModel, called + " left a result that can't be used"};
     }
 
     void TellMissing(const std::vector<CsvStand>& stands) {

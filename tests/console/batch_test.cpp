@@ -145,6 +145,16 @@ TEST_F(BatchFileRuns, TellsABatchThatIsNone) {
     EXPECT_EQ(RunLines(many).errors, "arbolith-cli: stands.qvb: it holds more than 1025 stands\n");
 }
 
+TEST_F(BatchFileRuns, TellsLabelsThatLeaveNoNumber) {
+    for (const char* label : {"32767", "32768"}) {
+        const auto ended = RunLines({SequenceLine(label, "S"), SequenceLine(" ", "S")});
+        EXPECT_EQ(ended.status, 4);
+        EXPECT_EQ(ended.errors,
+                  "arbolith-cli: stands.qvb: its plot labels are too high: stands are numbered up "
+                  "to 32767\n");
+    }
+}
+
 TEST_F(BatchFileRuns, AnAutorunLineMakesNoDifference) {
     auto text = BatchText({SequenceLine("1", "S")});
     text.replace(text.find("autorun false"), 13, "autorun true");

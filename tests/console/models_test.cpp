@@ -56,12 +56,27 @@ TEST_F(Models, OneThatCrashesIsTold) {
 }
 
 TEST_F(Models, OneThatWritesGarbageIsTold) {
-    ReplaceModels(
-        "printf 'no numbers, but a text\\r\\n' > _OUTPUT.TMP; cp _OUTPUT.TMP _SOFTOUT.TMP");
+    const std::string print = R"(printf 'no numbers, but a text\r\n')";
+    ReplaceModels(print + " > _OUTPUT.TMP; " + print + " > _SOFTOUT.TMP");
     const auto stand = RunStand();
     EXPECT_EQ(stand.status, 5);
     EXPECT_EQ(stand.errors, "arbolith-cli: SWQVL.exe left a result that can't be used\n");
-    EXPECT_EQ(RunBatch().status, 5);
+    const auto batch = RunBatch();
+    EXPECT_EQ(batch.status, 5);
+    EXPECT_EQ(batch.errors, "arbolith-cli: HWQVL.exe left no result\n");
+    ReplaceModels(print + " > _SOFTOUT.TMP; " + print + " > _HARDOUT.TMP");
+    EXPECT_EQ(RunBatch().errors,
+              "arbolith-cli: SWQVL.exe or HWQVL.exe left a result that can't be used\n");
+}
+
+// A row of a stand that the batch doesn't have; as text and as a page it has a place.
+TEST_F(Models, OneThatWritesOfAnotherStandIsTold) {
+    work.Write("stands.qvb", BatchText({SequenceLine("1", "S")}));
+    ReplaceModels(
+        R"(printf '4\r\n77 5 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1 1\r\n' > _SOFTOUT.TMP)");
+    const auto ended = RunBatch();
+    EXPECT_EQ(ended.status, 5);
+    EXPECT_EQ(ended.errors, "arbolith-cli: SWQVL.exe left a result that can't be used\n");
 }
 
 // The probes before the run leave results, too.

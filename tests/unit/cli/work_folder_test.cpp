@@ -1,14 +1,13 @@
 #include "cli/work_folder.h"
 
 #include "cli/exit_status.h"
+#include "unit/platform/full_disk.h"
 #include "unit/platform/temporary_folder.h"
 
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/resource.h>
 
 namespace arbolith::console {
 
@@ -78,19 +77,12 @@ TEST_F(WorkFolderTest, HasRoomUntilItIsGone) {
     EXPECT_THROW(folder.RequireRoom(request), Failure);
 }
 
-// The limit on the size of a file stands for a full disk.
 TEST_F(WorkFolderTest, HasRoomForAsMuchAsTheRequestHolds) {
     const WorkFolder folder(models.Path());
     models.Write("large.qvb", std::string(100'000, '#'));
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{120'000, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
+    const FullDisk full(120'000);
     EXPECT_NO_THROW(folder.RequireRoom(models.PathOf("SWQVL.exe")));
     EXPECT_THROW(folder.RequireRoom(models.PathOf("large.qvb")), Failure);
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
 }
 
 TEST_F(WorkFolderTest, AMissingModelFolderIsTold) {

@@ -1,12 +1,11 @@
 #include "platform/numbered_files.h"
 
 #include "unit/platform/expect_error.h"
+#include "unit/platform/full_disk.h"
 #include "unit/platform/ordinary_user.h"
 #include "unit/platform/temporary_folder.h"
 
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace arbolith {
@@ -53,19 +52,12 @@ TEST_F(NumberedFilesTest, HoldsWhatWasWrittenSoFarOnceItIsFlushed) {
     EXPECT_ERROR(52, files_.Flush(1));
 }
 
-// The limit on the size of a file stands for a full disk.
 TEST_F(NumberedFilesTest, KeepsWhatTheDiskHasRoomFor) {
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{10, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
+    const FullDisk full(10);
     files_.OpenForOutput(1, PathOf("out.txt"));
     files_.PrintLine(1, "a text that is longer");
     EXPECT_THROW(files_.Flush(1), RuntimeError);
     files_.CloseQuietly(1);
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
     EXPECT_EQ(folder_.Read("out.txt"), "a text tha");
 }
 
