@@ -1,4 +1,5 @@
 // A button to press.
+#include "qt/focus_ring.h"
 #include "qt/form_window.h"
 #include "qt/texts.h"
 #include "qt/views.h"
@@ -43,6 +44,13 @@ protected:
             if (left > place.left()) place.setRight(std::min(place.right(), left - kGap));
         }
         return place;
+    }
+
+    void paintEvent(QPaintEvent* event) override {
+        QPushButton::paintEvent(event);
+        if (!hasFocus()) return;
+        PaintFocusRing(*this, rect().adjusted(2, 2, -2, -2),
+                       marked_ ? QPalette::ButtonText : QPalette::Highlight);
     }
 
     void keyPressEvent(QKeyEvent* event) override {

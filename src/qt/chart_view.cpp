@@ -34,7 +34,7 @@ void ChartView::Refresh() {
     RefreshWidget();
     drawn_->SetTextFactor(Scale::FontFactor(Window().font()));
     drawn_->Draw(PlotOf(chart_));
-    setAccessibleDescription(drawn_->Drawn().title);
+    setAccessibleDescription(DescriptionOf(drawn_->Drawn()));
 }
 
 // A chart that is told larger than its window (as high as the screen, with a title bar above it) is

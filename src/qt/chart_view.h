@@ -12,6 +12,7 @@ class ChartView final : public QChartView, public View {
 public:
     ChartView(Chart& chart, FormWindow& window);
 
+    QAccessible::Role Role() const override { return QAccessible::Chart; }
     void Refresh() override;
 
     const DrawnChart& Drawn() const { return *drawn_; }

@@ -6,6 +6,8 @@
 #include <QCheckBox>
 #include <QRadioButton>
 
+#include <type_traits>
+
 namespace arbolith {
 
 namespace {
@@ -19,6 +21,11 @@ public:
         QObject::connect(this, &Base::clicked, this, [this] {
             Perform([this](UserActions& actions) { actions.Click(choice_); });
         });
+    }
+
+    QAccessible::Role Role() const override {
+        return std::is_same_v<ChoiceControl, Option> ? QAccessible::RadioButton
+                                                     : QAccessible::CheckBox;
     }
 
     void Refresh() override {

@@ -52,6 +52,8 @@ FormWindow::FormWindow(Form& form, WindowManager& manager)
       inside_(new QWidget(this)),
       firstSize_(form.ClientSize()) {
     setObjectName(ObjectNameOf(form));
+    // Makes the style draw where the focus is, also before the first key.
+    setAttribute(Qt::WA_KeyboardFocusChange);
     Build();
 }
 
@@ -249,8 +251,6 @@ bool FormWindow::focusNextPrevChild(bool next) {
     Control* to = from == nullptr ? Application::FirstInTabOrder(form_)
                                   : Application::NextInTabOrder(*from, next);
     if (to == nullptr) return false;
-    // Makes the style draw where the focus is, for those who move by keys.
-    setAttribute(Qt::WA_KeyboardFocusChange);
     Perform([&](UserActions& actions) { actions.Focus(*to); });
     return true;
 }

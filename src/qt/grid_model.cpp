@@ -67,10 +67,15 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     return TextOf(GridRow(index), GridCol(index));
 }
 
+// A heading without a text is told by the first cell that it heads.
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (role != Qt::DisplayRole) return {};
-    return orientation == Qt::Horizontal ? TextOf(fixedRows_ - 1, section + fixedCols_)
-                                         : TextOf(section + fixedRows_, fixedCols_ - 1);
+    const bool isSpoken = role == Qt::AccessibleTextRole;
+    if (role != Qt::DisplayRole && !isSpoken) return {};
+    const bool isColumn = orientation == Qt::Horizontal;
+    const int row = isColumn ? fixedRows_ : section + fixedRows_;
+    const int col = isColumn ? section + fixedCols_ : fixedCols_;
+    const QString heading = isColumn ? TextOf(row - 1, col) : TextOf(row, col - 1);
+    return isSpoken && heading.isEmpty() ? TextOf(row, col) : heading;
 }
 
 }  // namespace arbolith

@@ -1,5 +1,6 @@
 // The grid as a table. Mouse and keys set the state's selection, an anchor cell and a moving end;
 // what is highlighted only follows it.
+#include "qt/focus_ring.h"
 #include "qt/form_window.h"
 #include "qt/grid_cells.h"
 #include "qt/grid_model.h"
@@ -39,6 +40,7 @@ public:
     void Refresh() override;
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -174,6 +176,11 @@ void GridView::SelectFrom(CellPlace anchor, CellPlace end) {
 
 void GridView::MoveEnd(CellPlace end) {
     SelectFrom({grid_.Row(), grid_.Col()}, end);
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (hasFocus()) PaintFocusRing(*viewport(), viewport()->rect());
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {

@@ -46,6 +46,11 @@ public:
         if (label.GetLook().link) setCursor(Qt::PointingHandCursor);
     }
 
+    QAccessible::Role Role() const override {
+        if (label_.GetLook().link) return QAccessible::Link;
+        return label_.GetLook().bordered ? QAccessible::Button : QAccessible::NoRole;
+    }
+
     void Refresh() override {
         const QString caption = ToShownText(label_.Caption());
         if (text() != caption) setText(caption);

@@ -1,4 +1,5 @@
 // A list of rows, one of which may be selected.
+#include "qt/focus_ring.h"
 #include "qt/form_window.h"
 #include "qt/text_columns.h"
 #include "qt/texts.h"
@@ -27,9 +28,10 @@ public:
     }
 
     QVariant data(const QModelIndex& index, int role) const override {
-        if (role != Qt::DisplayRole || window_.IsGone()) return {};
-        if (index.row() >= list_.ListCount()) return {};
-        return ToQString(list_.List()[static_cast<std::size_t>(index.row())]);
+        if (window_.IsGone() || index.row() >= list_.ListCount()) return {};
+        const QString row = ToQString(list_.List()[static_cast<std::size_t>(index.row())]);
+        if (role == Qt::AccessibleTextRole) return Spoken(row);
+        return role == Qt::DisplayRole ? row : QVariant();
     }
 
     // Rows are added and removed at the end only and then all shown anew: the view keeps its place.
@@ -48,6 +50,15 @@ public:
     }
 
 private:
+    // What stands in columns is told one by one.
+    QString Spoken(const QString& row) const {
+        const auto& columns = list_.GetLook().columns;
+        if (columns.empty()) return row;
+        QStringList pieces;
+        for (const auto& piece : CutIntoColumns(row, columns)) pieces << piece.text;
+        return pieces.join(QStringLiteral(", "));
+    }
+
     const ListBox& list_;
     const FormWindow& window_;
     int count_ = 0;
@@ -63,6 +74,15 @@ public:
         setUniformItemSizes(true);
         setEditTriggers(NoEditTriggers);
         setModel(rows_);
+        // Assistive technology selects a row without a click.
+        connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+            const auto selected = selectionModel()->selectedIndexes();
+            if (selected.isEmpty() || selected.constFirst().row() == list_.ListIndex()) return;
+            if (Perform([&](UserActions& actions) {
+                    actions.SelectRow(list_, selected.constFirst().row());
+                }))
+                ShowState();
+        });
         const auto& columns = list.GetLook().columns;
         if (!columns.empty()) setItemDelegate(new RowsInColumns(columns, *this));
     }
@@ -80,6 +100,11 @@ public:
     }
 
 protected:
+    void paintEvent(QPaintEvent* event) override {
+        QListView::paintEvent(event);
+        if (hasFocus()) PaintFocusRing(*viewport(), viewport()->rect());
+    }
+
     void mousePressEvent(QMouseEvent* event) override {
         const QModelIndex pressed = indexAt(event->pos());
         if (event->button() == Qt::LeftButton && pressed.isValid()) Select(pressed.row());

@@ -30,6 +30,8 @@ public:
           View(picture, window, this),
           picture_(picture) {}
 
+    QAccessible::Role Role() const override { return QAccessible::Graphic; }
+
     void Refresh() override {
         caption_ = ToQString(picture_.Caption());
         RefreshWidget();

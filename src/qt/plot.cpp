@@ -58,6 +58,11 @@ void TakeBars(const Chart& chart, Plot& plot) {
     plot.x = {-0.5, rows - 0.5, rows, 1};
 }
 
+QString RangeText(const AxisScale& scale) {
+    return QStringLiteral(", %1 to %2")
+        .arg(TickTexts(scale).constFirst(), TickTexts(scale).constLast());
+}
+
 }  // namespace
 
 Plot PlotOf(const Chart& chart) {
@@ -94,6 +99,19 @@ QStringList TickTexts(const AxisScale& scale) {
         texts << (isPlain ? QString::number(shown, 'f', decimals) : QString::number(shown, 'g', 6));
     }
     return texts;
+}
+
+QString DescriptionOf(const Plot& plot) {
+    QStringList sentences;
+    if (!plot.title.isEmpty()) sentences << plot.title;
+    sentences << QStringLiteral("X axis: %1").arg(plot.xTitle);
+    if (!plot.hasBars) sentences.back() += RangeText(plot.x);
+    sentences << QStringLiteral("Y axis: %1").arg(plot.yTitle) + RangeText(plot.y);
+    QStringList names;
+    for (const PlotSeries& series : plot.series) names << series.name;
+    sentences << (plot.hasBars ? QStringLiteral("Bars: ") : QStringLiteral("Lines: ")) +
+                     names.join(QStringLiteral(", "));
+    return sentences.join(QStringLiteral(". "));
 }
 
 QString TextOf(const Plot& plot, DataPoint point) {

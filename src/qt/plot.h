@@ -54,6 +54,9 @@ Plot PlotOf(const Chart& chart);
 /// divisions need.
 QStringList TickTexts(const AxisScale& scale);
 
+/// What the plot shows, in words: its title, its axes from end to end, its series.
+QString DescriptionOf(const Plot& plot);
+
 /// What a data point says: its series, its value and what it stands over.
 QString TextOf(const Plot& plot, DataPoint point);
 

@@ -84,6 +84,7 @@ bool QtHost::ShowBox(const Box& box) {
     message.setWindowTitle(ToQString(box.title));
     message.setTextFormat(Qt::PlainText);
     message.setText(ToShownText(box.text));
+    message.setAccessibleDescription(message.text());
     message.setIcon(IconOf(box.icon));
     if (box.buttons == BoxButtons::kYesNo) {
         message.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
@@ -117,6 +118,7 @@ std::shared_ptr<const Drawing> QtHost::ClipboardPicture() {
 
 // Over the active window, and over the windows that stay above all others.
 int QtHost::Show(QDialog& dialog) {
+    if (dialog.windowTitle().isEmpty()) dialog.setAccessibleName(QApplication::applicationName());
     const WindowManager::OwnBox ownBox(windows_);
     if (windows_ != nullptr && windows_->HasTopmost())
         dialog.setWindowFlag(Qt::WindowStaysOnTopHint);

@@ -24,7 +24,8 @@ public:
         : QLineEdit(window.InsideOf(box.Parent())), View(box, window, this), box_(box) {
         // The length limit is the state's, which cuts by rules of its own.
         setMaxLength(std::numeric_limits<int>::max());
-        connect(this, &QLineEdit::textEdited, this, [this] { PassEdit(); });
+        // Assistive technology sets the text without a word of an edit.
+        connect(this, &QLineEdit::textChanged, this, [this] { PassEdit(); });
         connect(this, &QLineEdit::selectionChanged, this, [this] { PassSelection(); });
         connect(this, &QLineEdit::cursorPositionChanged, this, [this] { PassSelection(); });
     }

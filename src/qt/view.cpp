@@ -1,5 +1,6 @@
 #include "qt/view.h"
 
+#include "qt/accessible_names.h"
 #include "qt/form_window.h"
 #include "qt/keys.h"
 #include "qt/texts.h"
@@ -11,29 +12,6 @@ namespace {
 // The top bit marks a colour of the desktop's.
 bool IsSystemColour(Colour colour) {
     return (colour & 0x80000000) != 0;
-}
-
-bool Labels(const Control& control) {
-    const auto kind = control.Kind();
-    return (kind == ControlKind::kLabel || kind == ControlKind::kOption ||
-            kind == ControlKind::kCheckBox) &&
-           !control.Caption().empty();
-}
-
-bool IsField(const Control& control) {
-    return control.TakesFocus() || control.Kind() == ControlKind::kProgressBar;
-}
-
-// The caption, or for a field without one that of the label before it in the same frame.
-std::string AccessibleNameOf(const Control& control) {
-    if (!control.Caption().empty()) return control.Caption();
-    if (!IsField(control)) return control.Name();
-    const Control* label = nullptr;
-    for (const Control* other : control.Owner().Controls()) {
-        if (other == &control) break;
-        if (Labels(*other) && &other->Parent() == &control.Parent()) label = other;
-    }
-    return label == nullptr ? control.Name() : label->Caption();
 }
 
 }  // namespace
@@ -58,6 +36,10 @@ bool View::Perform(const std::function<void(UserActions&)>& action) {
 
 void View::ShowState() {
     window_.Update(*this);
+}
+
+void View::Press() {
+    Perform([this](UserActions& actions) { actions.Click(control_); });
 }
 
 void View::PassMouse(QMouseEvent& event) {
@@ -85,7 +67,7 @@ void View::RefreshWidget() {
     if (widget_->geometry() != place) widget_->setGeometry(place);
     if (widget_->isEnabledTo(widget_->parentWidget()) != control_.Enabled())
         widget_->setEnabled(control_.Enabled());
-    const QString name = WithoutAccessKey(ToQString(AccessibleNameOf(control_)));
+    const QString name = AccessibleNameOf(control_);
     if (widget_->accessibleName() != name) widget_->setAccessibleName(name);
     if (widget_->isHidden() == control_.Visible()) widget_->setVisible(control_.Visible());
 }

@@ -5,6 +5,7 @@
 #include "forms/control.h"
 #include "forms/user_actions.h"
 
+#include <QAccessible>
 #include <QColor>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -27,6 +28,11 @@ public:
     /// Shows the control's state as it stands. Called while the window ignores what its widgets
     /// say, so that nothing comes back as a person's action.
     virtual void Refresh() = 0;
+
+    /// What assistive technology is told that the widget is; NoRole for what the toolkit tells.
+    virtual QAccessible::Role Role() const { return QAccessible::NoRole; }
+    /// What its action there does: that of a click.
+    void Press();
 
     /// The widget that mouse and keys are sent to; null for a menu entry or a timer.
     QWidget* Widget() const { return widget_; }

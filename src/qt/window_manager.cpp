@@ -1,5 +1,6 @@
 #include "qt/window_manager.h"
 
+#include "qt/accessibility.h"
 #include "qt/chart_drawing.h"
 #include "qt/form_window.h"
 
@@ -27,6 +28,7 @@ WindowManager::WindowManager(Application& application, bool manualTimers)
       context_(std::make_unique<QObject>()) {
     application_.onSettled = [this] { Flush(); };
     application_.drawChart = DrawChart;
+    TellAssistiveTechnology();
     if (!manualTimers_) WatchComingBack();
 }
 

@@ -55,6 +55,21 @@ TEST_F(PlotTest, AScatterChartReadsItsColumnsInPairs) {
     EXPECT_EQ(plot.series[1].points[2], QPointF(15, chart.Data(3, 4)));
 }
 
+TEST_F(PlotTest, ADescriptionTellsTitleAxesAndSeries) {
+    FillScatter(chart, 2, 3);
+    Plot plot = PlotOf(chart);
+    plot.title = "Red Oak";
+    plot.xTitle = "Age";
+    plot.yTitle = "Height";
+    plot.x = {0, 15, 3, 1};
+    plot.y = {-1, 1, 4, 1};
+    EXPECT_EQ(DescriptionOf(plot),
+              "Red Oak. X axis: Age, 0 to 15. Y axis: Height, -1.0 to 1.0. Lines: TDBH, MDBH");
+    plot.hasBars = true;
+    plot.title.clear();
+    EXPECT_EQ(DescriptionOf(plot), "X axis: Age. Y axis: Height, -1.0 to 1.0. Bars: TDBH, MDBH");
+}
+
 TEST_F(PlotTest, ALastColumnWithoutItsPairIsNoSeries) {
     chart.SetSize(2, 3);
     EXPECT_EQ(PlotOf(chart).series.size(), 1U);
