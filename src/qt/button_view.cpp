@@ -14,6 +14,8 @@ namespace {
 
 // Pixels between two buttons of a row.
 constexpr int kGap = 6;
+// How much darker a marked button is than a selection, in per cent.
+constexpr int kDarker = 130;
 
 class ButtonView final : public QPushButton, public View {
 public:
@@ -32,6 +34,9 @@ public:
         RefreshWidget();
         RefreshBackColor(QPalette::Button, QPalette::ButtonText);
         if (marked_ != button_.IsMarked()) RefreshMark();
+        QFont told = Window().TextFont();
+        told.setBold(marked_);
+        if (font() != told) setFont(told);
     }
 
 protected:
@@ -67,12 +72,10 @@ private:
     // The marked button has the colours of a selection.
     void RefreshMark() {
         marked_ = button_.IsMarked();
-        QFont told = Window().font();
-        told.setBold(marked_);
-        setFont(told);
         QPalette colours;
         if (marked_) {
-            colours.setBrush(QPalette::Button, palette().highlight());
+            // Styles draw a button lighter than it is told, and white has to be read on it.
+            colours.setBrush(QPalette::Button, palette().highlight().color().darker(kDarker));
             colours.setBrush(QPalette::ButtonText, palette().highlightedText());
         }
         setPalette(colours);

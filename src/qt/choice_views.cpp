@@ -1,4 +1,5 @@
 // Option buttons and check boxes. A click never switches them by itself: the control's state does.
+#include "qt/focus_ring.h"
 #include "qt/form_window.h"
 #include "qt/texts.h"
 #include "qt/views.h"
@@ -6,11 +7,15 @@
 #include <QCheckBox>
 #include <QRadioButton>
 
+#include <algorithm>
 #include <type_traits>
 
 namespace arbolith {
 
 namespace {
+
+// Between the text and the mark of the focus.
+constexpr int kMargin = 4;
 
 template <class Base, class ChoiceControl>
 class ChoiceView final : public Base, public View {
@@ -37,6 +42,16 @@ public:
     }
 
 protected:
+    void paintEvent(QPaintEvent* event) override {
+        Base::paintEvent(event);
+        if (!this->hasFocus()) return;
+        // On a colour of the control's own the mark has that of its text.
+        const bool isColoured = this->autoFillBackground();
+        const int shown = isColoured ? this->width() : this->sizeHint().width() + kMargin;
+        PaintFocusRing(*this, {0, 0, std::min(this->width(), shown), this->height()},
+                       isColoured ? this->foregroundRole() : QPalette::Highlight);
+    }
+
     void nextCheckState() override {}
 
     // The whole place can be clicked, not only mark and text.

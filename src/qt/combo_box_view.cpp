@@ -1,4 +1,5 @@
 // A list that drops down.
+#include "qt/focus_ring.h"
 #include "qt/form_window.h"
 #include "qt/texts.h"
 #include "qt/views.h"
@@ -27,6 +28,11 @@ public:
     }
 
 protected:
+    void paintEvent(QPaintEvent* event) override {
+        QComboBox::paintEvent(event);
+        if (hasFocus()) PaintFocusRing(*this, rect().adjusted(2, 2, -2, -2));
+    }
+
     void keyPressEvent(QKeyEvent* event) override {
         const bool opens = event->key() == Qt::Key_F4 || event->key() == Qt::Key_Space ||
                            event->modifiers() & Qt::AltModifier;

@@ -10,10 +10,17 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <cmath>
 
 namespace arbolith {
 
 namespace {
+
+// Texts become smaller in these steps, as a share of their size, and no smaller than these points.
+constexpr double kTextStep = 0.05;
+constexpr double kSmallestText = 6;
+// With so much of the room that they want they stay as they are.
+constexpr double kEnough = 0.985;
 
 // A form without a title is shown without a frame, as a splash is.
 Qt::WindowFlags FlagsOf(const Form& form) {
@@ -37,6 +44,14 @@ Qt::WindowStates StatesOf(WindowState state) {
     return Qt::WindowNoState;
 }
 
+// The share of their size that texts of so many points have in so much of the room that they want.
+double ShareIn(double room, double points) {
+    if (room > kEnough) return 1;
+    // Letters don't shrink evenly: one step more makes sure of it.
+    const double share = (std::floor(room / kTextStep) - 1) * kTextStep;
+    return std::clamp(share, std::min(1.0, kSmallestText / points), 1.0);
+}
+
 // Focus that comes back by itself: with its window, or when a menu closes.
 bool ComesByItself(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
@@ -52,8 +67,6 @@ FormWindow::FormWindow(Form& form, WindowManager& manager)
       inside_(new QWidget(this)),
       firstSize_(form.ClientSize()) {
     setObjectName(ObjectNameOf(form));
-    // Makes the style draw where the focus is, also before the first key.
-    setAttribute(Qt::WA_KeyboardFocusChange);
     Build();
 }
 
@@ -67,6 +80,7 @@ void FormWindow::Build() {
     views_.reserve(form_.Controls().size());
     for (Control* control : form_.Controls()) AddView(*control);
     scale_ = normalScale_ = NormalScale();
+    tightness_ = Scale::TightnessOf(form_, font());
     RefreshViews();
 }
 
@@ -272,6 +286,7 @@ void FormWindow::resizeEvent(QResizeEvent*) {
     if (menuBar_ != nullptr) menuBar_->setGeometry(0, 0, width(), menuHeight);
     inside_->setGeometry(0, menuHeight, width(), height() - menuHeight);
     ClientSizeChanged();
+    FitTexts();
 }
 
 void FormWindow::RequestClientSize(Size size) {
@@ -307,6 +322,24 @@ void FormWindow::FollowFont() {
         RefreshViews();
         RefreshForm();
     });
+    FitTexts();
+}
+
+// A window with less room than its texts want, being small or on a small screen, shows them
+// smaller, as long as they can be read: so none is cut off.
+void FormWindow::FitTexts() {
+    const double points = font().pointSizeF();
+    if (gone_ || points <= 0) return;
+    const QSize told = Scale().Pixels(firstSize_);
+    const double room = std::min(double(inside_->width()) / told.width(),
+                                 double(inside_->height()) / told.height());
+    const double share = ShareIn(room / Scale::FontFactor(font()) / tightness_, points);
+    QFont texts = font();
+    if (share < 1) texts.setPointSizeF(points * share);
+    if (textShare_ == share && TextFont() == texts) return;
+    textShare_ = share;
+    inside_->setFont(share < 1 ? texts : QFont());
+    manager_.WhileFlushing([this] { RefreshViews(); });
 }
 
 void FormWindow::FollowWindowState() {

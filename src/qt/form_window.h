@@ -26,6 +26,10 @@ public:
     Form& GetForm() const { return form_; }
     const Scale& GetScale() const { return scale_; }
     bool HasManualTimers() const;
+    /// The font of the texts: the window's, or a smaller one while the window has less room.
+    QFont TextFont() const { return inside_->font(); }
+    /// How much of the window's font's size that one has; at most 1.
+    double TextShare() const { return textShare_; }
 
     /// Shows the state of one control, or of the form itself: title, size, whether it is open.
     void Refresh(const Control& control);
@@ -74,6 +78,7 @@ private:
     QSize RoomOnScreen() const;
     Scale NormalScale() const;
     void FollowFont();
+    void FitTexts();
     void RefreshScale();
     void RefreshViews();
     void FollowWindowState();
@@ -89,7 +94,9 @@ private:
     std::unordered_map<const Control*, View*> views_;
     std::unordered_map<const QObject*, Control*> focusTakers_;
     Size firstSize_;
-    Scale normalScale_;  ///< While the window isn't maximised.
+    Scale normalScale_;     ///< While the window isn't maximised.
+    double tightness_ = 1;  ///< As the form was told, before it was resized.
+    double textShare_ = 1;
     Size requested_;
     Place shownPlace_;
     bool windowLeads_ = false;

@@ -1,5 +1,6 @@
 // A label: plain text, a heading, the headings of a list's columns, or a link to click. The access
 // key of one leads to the field behind it.
+#include "qt/focus_ring.h"
 #include "qt/form_window.h"
 #include "qt/scale.h"
 #include "qt/text_columns.h"
@@ -9,7 +10,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 
@@ -69,7 +69,8 @@ protected:
         } else {
             PaintColumns();
         }
-        if (hasFocus()) PaintFocus();
+        if (hasFocus())
+            PaintFocusRing(*this, {0, 0, std::min(width(), sizeHint().width()), height()});
     }
 
     void mousePressEvent(QMouseEvent* event) override { PassMouse(*event); }
@@ -89,20 +90,13 @@ private:
         DrawInColumns(painter, line, text(), columns_, line.width());
     }
 
-    void PaintFocus() {
-        QStyleOptionFocusRect frame;
-        frame.initFrom(this);
-        frame.rect.setWidth(std::min(width(), sizeHint().width()));
-        QPainter painter(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
-    }
-
     void RefreshFont() {
         const Label::Look& look = label_.GetLook();
         if (!look.bold && look.points == 0 && !look.link) return;
-        QFont told = Window().font();
+        QFont told = Window().TextFont();
         // A told size grows with a large desktop font, so that a heading stays one.
-        if (look.points != 0) told.setPointSizeF(look.points * Scale::FontFactor(told));
+        const double growth = Scale::FontFactor(Window().font()) * Window().TextShare();
+        if (look.points != 0) told.setPointSizeF(look.points * growth);
         told.setBold(look.bold);
         told.setUnderline(look.link);
         if (font() != told) setFont(told);

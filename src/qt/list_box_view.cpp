@@ -141,7 +141,7 @@ protected:
 private:
     void RefreshFont() {
         if (list_.GetLook().font.empty()) return;
-        QFont told = Window().font();
+        QFont told = Window().TextFont();
         told.setFamily(ToQString(list_.GetLook().font));
         told.setPointSizeF(told.pointSizeF() * kGrowth);
         if (font() != told) setFont(told);

@@ -1,5 +1,7 @@
 #include "qt/scale.h"
 
+#include "qt/texts.h"
+
 #include <QFontMetricsF>
 
 #include <algorithm>
@@ -48,6 +50,18 @@ Scale Scale::For(const Form& form, const QFont& font) {
     const double line = QFontMetricsF(font).height();
     if (button == 0 || button * factor >= line + kTightPadding) return Scale(factor);
     return Scale((line + kPadding) / button);
+}
+
+double Scale::TightnessOf(const Form& form, const QFont& font) {
+    const QFontMetricsF metrics(font);
+    double wanted = FontFactor(font);
+    for (const Control* control : form.Controls()) {
+        const double width = control->GetPlace().width / kTwipsPerPixel;
+        if (control->Kind() != ControlKind::kButton || width <= 0) continue;
+        const QString text = WithoutAccessKey(ToQString(control->Caption()));
+        wanted = std::max(wanted, (metrics.horizontalAdvance(text) + kPadding) / width);
+    }
+    return std::min(wanted, For(form, font).Factor()) / FontFactor(font);
 }
 
 int Scale::Pixels(int twips) const {

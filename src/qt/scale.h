@@ -25,6 +25,10 @@ public:
     /// How much larger the font is than the one the forms are laid out for; at least 1.
     static double FontFactor(const QFont& font);
 
+    /// How much more room than its font alone a form's buttons want for their texts; at least 1,
+    /// and no more than the form's own scale gives them.
+    static double TightnessOf(const Form& form, const QFont& font);
+
     int Pixels(int twips) const;
     /// Rounded edge by edge, so that what touches goes on touching.
     QRect Pixels(const Place& place) const;

@@ -72,6 +72,26 @@ TEST_F(ScaleTest, AnOpenFormFollowsTheFont) {
     EXPECT_EQ(form.ClientSize().width, 9000);
 }
 
+TEST_F(ScaleTest, AWindowWithLessRoomHasSmallerTextsAsLongAsTheyCanBeRead) {
+    ButtonForm form(application, 375);
+    Open(form);
+    auto& window = WindowOf(form);
+    const auto points = [&](const Control& control) {
+        return WidgetOf<QWidget>(control).font().pointSizeF();
+    };
+    const QSize first = window.size();
+    const double button = points(form.button);
+    const double heading = points(form.heading);
+    window.resize(first * 0.8);
+    EXPECT_NEAR(points(form.button), 0.75 * button, 0.5);
+    EXPECT_NEAR(points(form.heading), 0.75 * heading, 0.7);
+    window.resize(first * 0.2);
+    EXPECT_NEAR(points(form.button), 6, 0.1);
+    window.resize(first * 1.5);
+    EXPECT_DOUBLE_EQ(points(form.button), button);
+    EXPECT_DOUBLE_EQ(points(form.heading), heading);
+}
+
 TEST_F(ScaleTest, WhatTouchesGoesOnTouching) {
     const Scale scale(1.37);
     const QRect left = scale.Pixels(Place{7, 0, 101, 10});
