@@ -17,6 +17,9 @@ namespace arbolith {
 
 namespace {
 
+// Between a link and the mark of the focus behind it.
+constexpr int kMargin = 4;
+
 Qt::Alignment AlignmentOf(const Label::Look& look) {
     const Qt::Alignment vertical = look.wraps ? Qt::AlignTop : Qt::AlignVCenter;
     switch (look.alignment) {
@@ -69,8 +72,9 @@ protected:
         } else {
             PaintColumns();
         }
-        if (hasFocus())
-            PaintFocusRing(*this, {0, 0, std::min(width(), sizeHint().width()), height()});
+        if (!hasFocus()) return;
+        const int shown = label_.GetLook().bordered ? width() : sizeHint().width() + kMargin;
+        PaintFocusRing(*this, {0, 0, std::min(width(), shown), height()});
     }
 
     void mousePressEvent(QMouseEvent* event) override { PassMouse(*event); }
