@@ -16,11 +16,14 @@ constexpr qsizetype kMostInTip = 8;
 }  // namespace
 
 ChartView::ChartView(Chart& chart, FormWindow& window)
-    : QChartView(window.InsideOf(chart.Parent())),
+    : ChartView(chart, window, new DrawnChart(Scale::FontFactor(window.font()))) {}
+
+// The chart goes straight to the toolkit's view, which would else make one of its own and lose it.
+ChartView::ChartView(Chart& chart, FormWindow& window, DrawnChart* drawn)
+    : QChartView(drawn, window.InsideOf(chart.Parent())),
       View(chart, window, this),
       chart_(chart),
-      drawn_(new DrawnChart(Scale::FontFactor(window.font()))) {
-    setChart(drawn_);
+      drawn_(drawn) {
     setFrameShape(NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setRenderHint(QPainter::Antialiasing);

@@ -27,6 +27,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    ChartView(Chart& chart, FormWindow& window, DrawnChart* drawn);
     void Pick(DataPoint point);
     QString LineOf(DataPoint point) const;
     QString TipOf(const std::vector<DataPoint>& points) const;
