@@ -322,18 +322,21 @@ void FormWindow::FollowFont() {
         RefreshViews();
         RefreshForm();
     });
+    mostRoom_ = 0;
     FitTexts();
 }
 
-// A window with less room than its texts want, being small or on a small screen, shows them
-// smaller, as long as they can be read: so none is cut off.
+// A window that opens with less room than its texts want, being on a small screen, shows them
+// smaller, as long as they can be read: so none is cut off. What a person makes smaller keeps its
+// texts as they are.
 void FormWindow::FitTexts() {
     const double points = font().pointSizeF();
     if (gone_ || points <= 0) return;
     const QSize told = Scale().Pixels(firstSize_);
     const double room = std::min(double(inside_->width()) / told.width(),
                                  double(inside_->height()) / told.height());
-    const double share = ShareIn(room / Scale::FontFactor(font()) / tightness_, points);
+    mostRoom_ = std::max(mostRoom_, room);
+    const double share = ShareIn(mostRoom_ / Scale::FontFactor(font()) / tightness_, points);
     QFont texts = font();
     if (share < 1) texts.setPointSizeF(points * share);
     if (textShare_ == share && TextFont() == texts) return;

@@ -26,7 +26,7 @@ public:
     Form& GetForm() const { return form_; }
     const Scale& GetScale() const { return scale_; }
     bool HasManualTimers() const;
-    /// The font of the texts: the window's, or a smaller one while the window has less room.
+    /// The font of the texts: the window's, or a smaller one where the screen has less room.
     QFont TextFont() const { return inside_->font(); }
     /// How much of the window's font's size that one has; at most 1.
     double TextShare() const { return textShare_; }
@@ -96,6 +96,7 @@ private:
     Size firstSize_;
     Scale normalScale_;     ///< While the window isn't maximised.
     double tightness_ = 1;  ///< As the form was told, before it was resized.
+    double mostRoom_ = 0;   ///< That it has had with this font, as a share of its told size.
     double textShare_ = 1;
     Size requested_;
     Place shownPlace_;

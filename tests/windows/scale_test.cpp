@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 
 namespace arbolith {
 
@@ -14,11 +15,15 @@ struct ScaleTest : WindowTest {
         font.setPointSizeF(font.pointSizeF() * factor);
         return font;
     }
+
+    double PointsOf(const Control& control) {
+        return WidgetOf<QWidget>(control).font().pointSizeF();
+    }
 };
 
 struct ButtonForm : Form {
-    ButtonForm(Application& application, int height)
-        : Form(application, "ButtonForm", "Buttons", {9000, 6000}),
+    ButtonForm(Application& application, int height, Size clientSize = {9000, 6000})
+        : Form(application, "ButtonForm", "Buttons", clientSize),
           button(*this, "button", "Graph", {120, 6360, 1455, height}),
           below(*this, "below", "Graph", {120, 6720, 1455, height}) {}
 
@@ -72,24 +77,32 @@ TEST_F(ScaleTest, AnOpenFormFollowsTheFont) {
     EXPECT_EQ(form.ClientSize().width, 9000);
 }
 
-TEST_F(ScaleTest, AWindowWithLessRoomHasSmallerTextsAsLongAsTheyCanBeRead) {
+TEST_F(ScaleTest, AFormThatTheScreenIsTooSmallForHasSmallerTexts) {
+    const QSize screen = QGuiApplication::primaryScreen()->size();
+    ButtonForm form(application, 375, {screen.width() * 12, screen.height() * 12});
+    Open(form);
+    const QFont large = FontOf(2);
+    WindowOf(form).setFont(large);
+    EXPECT_LE(WindowOf(form).width(), screen.width());
+    EXPECT_LT(PointsOf(form.button), 0.9 * large.pointSizeF());
+    EXPECT_GT(PointsOf(form.button), 6);
+    EXPECT_GT(PointsOf(form.heading), PointsOf(form.button));
+    WindowOf(form).setFont(FontOf(1));
+    EXPECT_DOUBLE_EQ(PointsOf(form.button), FontOf(1).pointSizeF());
+}
+
+TEST_F(ScaleTest, ResizingAWindowLeavesItsTextsAsTheyAre) {
     ButtonForm form(application, 375);
     Open(form);
     auto& window = WindowOf(form);
-    const auto points = [&](const Control& control) {
-        return WidgetOf<QWidget>(control).font().pointSizeF();
-    };
     const QSize first = window.size();
-    const double button = points(form.button);
-    const double heading = points(form.heading);
-    window.resize(first * 0.8);
-    EXPECT_NEAR(points(form.button), 0.75 * button, 0.5);
-    EXPECT_NEAR(points(form.heading), 0.75 * heading, 0.7);
-    window.resize(first * 0.2);
-    EXPECT_NEAR(points(form.button), 6, 0.1);
-    window.resize(first * 1.5);
-    EXPECT_DOUBLE_EQ(points(form.button), button);
-    EXPECT_DOUBLE_EQ(points(form.heading), heading);
+    const double button = PointsOf(form.button);
+    const double heading = PointsOf(form.heading);
+    for (const double share : {0.8, 0.2, 1.5}) {
+        window.resize(first * share);
+        EXPECT_DOUBLE_EQ(PointsOf(form.button), button) << share;
+        EXPECT_DOUBLE_EQ(PointsOf(form.heading), heading) << share;
+    }
 }
 
 TEST_F(ScaleTest, WhatTouchesGoesOnTouching) {

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <pty.h>
 #include <string>
 #include <unistd.h>
@@ -11,11 +12,26 @@ namespace arbolith::console {
 
 namespace {
 
-// What can be read without waiting for more.
-std::string Read(int descriptor) {
+// All that has come, after waiting for as many bytes as are expected: a terminal may pass them on
+// in pieces.
+std::string Read(int descriptor, std::size_t expected) {
+    constexpr int kLongest = 5000;  // In milliseconds.
+    std::string text;
+    const auto hasMore = [&] {
+        pollfd awaited{descriptor, POLLIN, 0};
+        return poll(&awaited, 1, text.size() < expected ? kLongest : 0) > 0;
+    };
     std::array<char, 1000> bytes{};
-    const auto count = read(descriptor, bytes.data(), bytes.size());
-    return {bytes.data(), count > 0 ? static_cast<std::size_t>(count) : 0};
+    while (hasMore()) {
+        const auto count = read(descriptor, bytes.data(), bytes.size());
+        if (count <= 0) break;
+        text.append(bytes.data(), static_cast<std::size_t>(count));
+    }
+    return text;
+}
+
+void ExpectRead(int descriptor, const std::string& expected) {
+    EXPECT_EQ(Read(descriptor, expected.size()), expected);
 }
 
 /// Two ends of a pipe or of a terminal.
@@ -48,7 +64,7 @@ TEST(Terminal, AMessageCarriesTheProgramsName) {
     OpenPipe(ends);
     Terminal terminal(ends.writer);
     terminal.Say("stand.qvn: No such file or directory");
-    EXPECT_EQ(Read(ends.reader), "arbolith-cli: stand.qvn: No such file or directory\n");
+    ExpectRead(ends.reader, "arbolith-cli: stand.qvn: No such file or directory\n");
 }
 
 TEST(Terminal, AMessageIsUtf8WithoutControlCharacters) {
@@ -56,9 +72,9 @@ TEST(Terminal, AMessageIsUtf8WithoutControlCharacters) {
     OpenPipe(ends);
     Terminal terminal(ends.writer);
     terminal.Say("\u00C9rable\t\x1B[2J\x07\x7F\r\n\u0090.");
-    EXPECT_EQ(Read(ends.reader), "arbolith-cli: \u00C9rable\t?[2J?????.\n");
+    ExpectRead(ends.reader, "arbolith-cli: \u00C9rable\t?[2J?????.\n");
     terminal.Say("\xC9rable \x90");
-    EXPECT_EQ(Read(ends.reader), "arbolith-cli: \u00C9rable ?\n");
+    ExpectRead(ends.reader, "arbolith-cli: \u00C9rable ?\n");
 }
 
 TEST(Terminal, APipeSeesNoProgress) {
@@ -68,7 +84,7 @@ TEST(Terminal, APipeSeesNoProgress) {
     EXPECT_FALSE(terminal.ShowsProgress());
     terminal.Progress(0.5, "SWQVL.exe");
     terminal.Say("done");
-    EXPECT_EQ(Read(ends.reader), "arbolith-cli: done\n");
+    ExpectRead(ends.reader, "arbolith-cli: done\n");
 }
 
 TEST(Terminal, ATerminalSeesTheBarOnOneLine) {
@@ -77,9 +93,9 @@ TEST(Terminal, ATerminalSeesTheBarOnOneLine) {
     Terminal terminal(ends.writer);
     EXPECT_TRUE(terminal.ShowsProgress());
     terminal.Progress(0.5, "SWQVL.exe");
-    EXPECT_EQ(Read(ends.reader), "\r\x1B[K" + ProgressLine(0.5, "SWQVL.exe"));
+    ExpectRead(ends.reader, "\r\x1B[K" + ProgressLine(0.5, "SWQVL.exe"));
     terminal.ClearProgress();
-    EXPECT_EQ(Read(ends.reader), "\r\x1B[K");
+    ExpectRead(ends.reader, "\r\x1B[K");
 }
 
 TEST(Terminal, AMessageTakesTheBarAway) {
@@ -87,9 +103,9 @@ TEST(Terminal, AMessageTakesTheBarAway) {
     OpenTerminal(ends, 80);
     Terminal terminal(ends.writer);
     terminal.Progress(0, "SWQVL.exe");
-    Read(ends.reader);
+    ExpectRead(ends.reader, "\r\x1B[K" + ProgressLine(0, "SWQVL.exe"));
     terminal.Say("failed");
-    EXPECT_EQ(Read(ends.reader), "\r\x1B[Karbolith-cli: failed\r\n");
+    ExpectRead(ends.reader, "\r\x1B[Karbolith-cli: failed\r\n");
 }
 
 TEST(Terminal, ANarrowOrPlainTerminalSeesNoBar) {
