@@ -38,8 +38,8 @@ bool EndsLine(char c) {
     return c == '\r' || c == '\n';
 }
 
-// An output file is overwritten in place and cut at its new end when it is closed. Emptying it
-// first would make some file systems write it out at the close, which takes longer than a model
+// An output file is overwritten in place and cut at its new end when it is closed. Where it is
+// emptied first, some file systems write it out at the next close, which takes longer than a model
 // does.
 std::FILE* OpenToOverwrite(const std::string& path) {
     const int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
@@ -173,8 +173,14 @@ private:
 
     // Takes away what an earlier, longer text left. A device has nothing to cut.
     void CutBehindText() {
-        if (use_ == Use::kOutput && ftruncate(fileno(stream_), static_cast<off_t>(written_)) != 0)
+        if (use_ != Use::kOutput) return;
+        if (ftruncate(fileno(stream_), static_cast<off_t>(written_)) != 0) {
             errno = 0;
+        } else if (written_ == 0) {
+            // Gives the file system that next close while there is nothing to write out.
+            const int other = open(path_.c_str(), O_WRONLY | O_CLOEXEC);
+            if (other != -1) close(other);
+        }
     }
 
     void Refill() {
