@@ -31,7 +31,7 @@ constexpr double kNarrowest = 4;
 constexpr double kMajorTick = 5;
 constexpr double kMinorTick = 3;
 // Between the shapes on a line that has many points, in pixels.
-constexpr double kBetweenShapes = 12;
+constexpr double kBetweenShapes = 16;
 // A point farther outside the plot than this is not on it.
 constexpr double kInside = 1;
 constexpr double kArrow = 8;
@@ -281,7 +281,7 @@ void DrawnChart::PaintMarks(QPainter& painter) const {
 void DrawnChart::PaintPoints(QPainter& painter) const {
     for (std::size_t i = 0; i < plot_.series.size(); ++i) {
         const SeriesLook look = LookOfSeries(static_cast<int>(i));
-        painter.setPen(QPen(look.line.color(), 1));
+        painter.setPen(look.pointEdge);
         painter.setBrush(look.pointFill);
         std::optional<QPointF> last;
         for (const QPointF& point : plot_.series[i].points) {
@@ -329,7 +329,7 @@ void DrawnChart::PaintLegend(QPainter& painter) const {
         painter.setPen(look.line);
         painter.drawLine(QPointF(sample.left(), sample.center().y()),
                          QPointF(sample.right(), sample.center().y()));
-        painter.setPen(QPen(look.line.color(), 1));
+        painter.setPen(look.pointEdge);
         painter.setBrush(look.pointFill);
         painter.drawPath(look.point.translated(sample.center()));
     }

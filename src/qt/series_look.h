@@ -14,8 +14,9 @@ struct SeriesLook {
     QPen line;
     /// The shape of a point around (0, 0).
     QPainterPath point;
-    /// A point's inside: the line's colour or white.
+    /// A point's inside and edge: all of the line's colour, or white with an edge of that colour.
     QBrush pointFill;
+    QPen pointEdge;
     /// The inside of a bar.
     QBrush barFill;
 };
