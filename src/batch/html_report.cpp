@@ -4,6 +4,8 @@
 #include "platform/numbers.h"
 #include "platform/version.h"
 
+#include <algorithm>
+
 namespace arbolith {
 
 namespace {
@@ -210,17 +212,24 @@ std::string BatchGetHTMLTableHeader(RunDefinition& run, std::string_view ytbh,
     return std::move(html).Text();
 }
 
-std::string BatchGetRowOutput(const DataValues& datavals) {
-    constexpr std::size_t kUsualSize = 1000;
+void PutRowOutput(const DataValues& datavals, std::string& row) {
+    constexpr std::string_view kBefore = "  <TR class=\"data\">\r\n    <TD class=\"data\">";
     constexpr std::string_view kBetween = "</TD>\r\n    <TD class=\"data\">";
-    std::string row;
-    row.reserve(kUsualSize);
-    row += "  <TR class=\"data\">\r\n    <TD class=\"data\">";
+    constexpr std::string_view kBehind = "</TD>\r\n  </TR>";
+    std::size_t size = kBefore.size() + (datavals.size() - 2) * kBetween.size() + kBehind.size();
+    for (std::size_t i = 1; i < datavals.size(); ++i) size += datavals[i].size();
+    row.resize(size);
+    char* at = std::copy(kBefore.begin(), kBefore.end(), row.data());
     for (std::size_t i = 1; i < datavals.size(); ++i) {
-        if (i > 1) row += kBetween;
-        row += datavals[i];
+        if (i > 1) at = std::copy(kBetween.begin(), kBetween.end(), at);
+        at = std::copy(datavals[i].begin(), datavals[i].end(), at);
     }
-    row += "</TD>\r\n  </TR>";
+    std::copy(kBehind.begin(), kBehind.end(), at);
+}
+
+std::string BatchGetRowOutput(const DataValues& datavals) {
+    std::string row;
+    PutRowOutput(datavals, row);
     return row;
 }
 

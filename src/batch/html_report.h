@@ -25,5 +25,7 @@ std::string BatchGetHTMLTableHeader(RunDefinition& run, std::string_view ytbh,
 
 /// A row of a table, without a line end behind it.
 std::string BatchGetRowOutput(const DataValues& datavals);
+/// The same into a text that is used again for every row: pages are mostly rows.
+void PutRowOutput(const DataValues& datavals, std::string& row);
 
 }  // namespace arbolith

@@ -93,7 +93,8 @@ private:
 
     void PrintRow(const std::string& plot) {
         if (IsHtml()) {
-            Print(BatchGetRowOutput(datavals_));
+            PutRowOutput(datavals_, htmlRow_);
+            Print(htmlRow_);
             return;
         }
         BatchGetDataLengths(datavals_, plot, datalengths_);
@@ -104,21 +105,26 @@ private:
     DataValues datavals_;
     DataLengths datalengths_{};
     std::string ytbh_;
+    std::string htmlRow_;
     bool tablePending_ = false;  ///< A head was read and isn't written yet.
     bool firstTable_ = true;     ///< No head was read yet.
 };
 
 }  // namespace
 
+// Values are a few characters long: a search of the library's for each costs more than looking.
 void SplitRow(std::string_view row, DataValues& datavals) {
     row = Trimmed(row);
+    const char* at = row.data();
+    const char* const end = at + row.size();
     for (std::size_t i = 0; i + 1 < datavals.size(); ++i) {
-        const auto end = row.find(' ');
-        if (end == std::string_view::npos) throw RuntimeError(ErrorNumber::kInvalidCall);
-        datavals[i] = row.substr(0, end);
-        row.remove_prefix(row.find_first_not_of(' ', end));
+        const char* const value = at;
+        while (at != end && *at != ' ') ++at;
+        if (at == end) throw RuntimeError(ErrorNumber::kInvalidCall);
+        datavals[i].assign(value, at);
+        while (*at == ' ') ++at;
     }
-    datavals.back() = row;
+    datavals.back().assign(at, end);
 }
 
 void ForEachOutputLine(NumberedFiles& files, int outputFile,
