@@ -58,18 +58,19 @@ void AppendHead(std::string& out, const ReportTexts& texts, std::size_t sequence
     }
 }
 
-// A file that is written over in place, piece by piece: emptying it first takes longer on some file
-// systems.
+// A file that is emptied, as a report is, and then written piece by piece. It is emptied by an
+// opening of its own: some file systems write an emptied file out at the next close, which takes
+// longer.
 class BareFile {
 public:
-    explicit BareFile(const std::string& path)
-        : descriptor_(open(path.c_str(), O_WRONLY | O_CREAT, 0666)) {
+    explicit BareFile(const std::string& path) {
+        close(open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666));
+        descriptor_ = open(path.c_str(), O_WRONLY);
         if (descriptor_ == -1) throw std::runtime_error("can't write " + path);
         text.reserve(2 * kPiece);
     }
     ~BareFile() {
         Write();
-        if (ftruncate(descriptor_, written_) != 0) std::perror("ftruncate");
         close(descriptor_);
     }
     BareFile(const BareFile&) = delete;
@@ -87,12 +88,10 @@ private:
     void Write() {
         const auto count = write(descriptor_, text.data(), text.size());
         if (count != static_cast<ssize_t>(text.size())) std::perror("write");
-        written_ += count;
         text.clear();
     }
 
-    int descriptor_;
-    off_t written_ = 0;
+    int descriptor_ = -1;
 };
 
 void AppendBlocks(BareFile& file, std::string_view output, const ReportTexts& texts) {
