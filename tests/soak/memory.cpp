@@ -1,5 +1,7 @@
 #include "soak/memory.h"
 
+#include <QPixmapCache>
+
 #include <fstream>
 #include <malloc.h>
 #include <unistd.h>
@@ -32,6 +34,7 @@ std::size_t Resident() {
 }  // namespace
 
 Memory MeasureMemory() {
+    QPixmapCache::clear();
     return {HeapInUse(), Resident()};
 }
 

@@ -10,6 +10,7 @@ struct Memory {
     std::size_t resident = 0;  ///< Bytes that the system has given it.
 };
 
+/// Lets go of the pictures that the toolkit keeps for speed, up to a size of its own, and measures.
 Memory MeasureMemory();
 
 }  // namespace arbolith
