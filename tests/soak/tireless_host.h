@@ -42,7 +42,7 @@ public:
     /// Called before a program is waited for: what the person does meanwhile.
     std::function<void()> onWait;
 
-    /// How often each box came up, by its text in one line.
+    /// How often each box came up, by its text in one line, without its numbers.
     const std::map<std::string, int>& Boxes() const { return boxes_; }
 
 private:
