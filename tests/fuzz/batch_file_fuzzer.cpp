@@ -3,8 +3,8 @@
 // Every row can be taken into the step form.
 #include "batch/batch.h"
 #include "batch/sequence_commands.h"
+#include "fuzz/counting_host.h"
 #include "fuzz/fuzzer.h"
-#include "platform/headless_host.h"
 #include "platform/runtime_error.h"
 #include "shell/program.h"
 #include "unit/platform/temporary_folder.h"
@@ -15,18 +15,6 @@
 namespace arbolith {
 
 namespace {
-
-// No program is ever started.
-class FuzzHost : public HeadlessHost {
-public:
-    bool ShowBox(const Box&) override {
-        ++boxes;
-        return true;
-    }
-    std::unique_ptr<Process> Start(const ProgramStart&) override { return nullptr; }
-
-    int boxes = 0;
-};
 
 class Reading {
 public:
@@ -97,7 +85,7 @@ private:
     }
 
     TemporaryFolder folder_;
-    FuzzHost host_;
+    CountingHost host_;
     Application application_{host_, folder_.Path(), ""};
     Program program_{application_};
     Batch& batch_ = program_.GetBatch();

@@ -2,8 +2,8 @@
 // treatment probe end in one of the told ways, with their files closed and the program usable.
 #include "batch/batch.h"
 #include "bench/white_pine.h"
+#include "fuzz/counting_host.h"
 #include "fuzz/fuzzer.h"
-#include "platform/headless_host.h"
 #include "platform/runtime_error.h"
 #include "shell/program.h"
 #include "unit/platform/temporary_folder.h"
@@ -12,13 +12,9 @@ namespace arbolith {
 
 namespace {
 
-// Boxes are counted, every program is over at once, and reports are saved under the given name.
-class FuzzHost : public HeadlessHost {
+// Every program is over at once, and reports are saved under the given name.
+class FuzzHost : public CountingHost {
 public:
-    bool ShowBox(const Box&) override {
-        ++boxes;
-        return true;
-    }
     std::optional<FileChoice> ChooseFile(const FileQuestion&) override { return choice; }
     OpenResult Open(const std::string&) override { return OpenResult::kOpened; }
     std::unique_ptr<Process> Start(const ProgramStart&) override {
@@ -26,7 +22,6 @@ public:
     }
     void WaitForEnd(Process&, const std::function<bool()>&) override {}
 
-    int boxes = 0;
     FileChoice choice;
 
 private:

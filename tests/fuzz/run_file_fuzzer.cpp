@@ -1,7 +1,7 @@
 // The reader of run files: whatever a file holds, opening it ends in one of the told ways, and what
 // was loaded can be saved and opened again.
+#include "fuzz/counting_host.h"
 #include "fuzz/fuzzer.h"
-#include "platform/headless_host.h"
 #include "platform/runtime_error.h"
 #include "run_definition/reset.h"
 #include "saved_runs/run_file.h"
@@ -11,18 +11,6 @@
 namespace arbolith {
 
 namespace {
-
-// Boxes are counted; no model is ever started, its output file stands ready.
-class FuzzHost : public HeadlessHost {
-public:
-    bool ShowBox(const Box&) override {
-        ++boxes;
-        return true;
-    }
-    std::unique_ptr<Process> Start(const ProgramStart&) override { return nullptr; }
-
-    int boxes = 0;
-};
 
 // Rows of 20, 55 and 70 years: one for a spacing, two for a thinning.
 constexpr const char* kModelOutput =
@@ -35,6 +23,7 @@ class Reading {
 public:
     Reading() {
         program_.Start();
+        // No model is started; what one would leave stands ready.
         folder_.Write("_OUTPUT.TMP", kModelOutput);
     }
 
@@ -65,7 +54,7 @@ private:
     }
 
     TemporaryFolder folder_;
-    FuzzHost host_;
+    CountingHost host_;
     Application application_{host_, folder_.Path(), ""};
     Program program_{application_};
     RunDefinition& run_ = program_.Run();
