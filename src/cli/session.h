@@ -29,6 +29,18 @@ public:
         host.ThrowFailure();
     }
 
+    /// Does the whole job of a request. Where it fails for want of room in the work folder, that is
+    /// the failure thrown: all else may have followed from it.
+    template <class Job>
+    ExitStatus Carry(const std::string& request, Job job) {
+        try {
+            return job();
+        } catch (const Failure&) {
+            folder_.RequireRoom(request);
+            throw;
+        }
+    }
+
     Program& Forms() { return program_; }
     const WorkFolder& Folder() const { return folder_; }
 

@@ -87,13 +87,7 @@ public:
     }
 
     ExitStatus Do() {
-        try {
-            return Work();
-        } catch (const Failure&) {
-            // All else may have followed from this.
-            session_.Folder().RequireRoom(request_.file);
-            throw;
-        }
+        return session_.Carry(request_.file, [this] { return Work(); });
     }
 
 private:
