@@ -33,8 +33,11 @@ std::size_t Resident() {
 
 }  // namespace
 
+void KeepNoPictures() {
+    QPixmapCache::setCacheLimit(0);
+}
+
 Memory MeasureMemory() {
-    QPixmapCache::clear();
     return {HeapInUse(), Resident()};
 }
 

@@ -10,7 +10,10 @@ struct Memory {
     std::size_t resident = 0;  ///< Bytes that the system has given it.
 };
 
-/// Lets go of the pictures that the toolkit keeps for speed, up to a size of its own, and measures.
+/// The toolkit keeps pictures of what it draws for speed, up to a size of its own; but the names of
+/// those that it drops stay, one for each size that a button ever had. From here on it keeps none.
+void KeepNoPictures();
+
 Memory MeasureMemory();
 
 }  // namespace arbolith

@@ -192,6 +192,7 @@ int RunWith(const std::vector<std::string>& words) {
         const auto options = ReadOptions(words);
         std::filesystem::current_path(options.folder);
         return OnWindows(std::nullopt, [&](Host& host, const MakeDriver& makeDriver) {
+            KeepNoPictures();
             return Soak(options, host, makeDriver).Run() ? 0 : 1;
         });
     } catch (const std::exception& error) {
