@@ -4,6 +4,7 @@
 
 #include "batch/batch.h"
 #include "unit/model_bridge/bridge_testing.h"
+#include "unit/platform/fake_host.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -11,19 +12,6 @@
 #include <vector>
 
 namespace arbolith {
-
-/// The host of a batch run: it knows the day, and what was handed to the opener.
-class BatchHost : public FakeHost {
-public:
-    OpenResult Open(const std::string& address) override {
-        opened.push_back(address);
-        return openResult;
-    }
-    Date Today() override { return {2026, 3, 5}; }
-
-    std::vector<std::string> opened;
-    OpenResult openResult = OpenResult::kOpened;
-};
 
 class BatchTest : public testing::Test {
 protected:
@@ -89,7 +77,7 @@ protected:
     std::string Report() const { return folder.Read("r.txt"); }
 
     TestFolder folder;
-    BatchHost host;
+    FakeHost host;
     Application application{host, folder.Path(), ""};
     RunDefinition run{application};
     Batch batch{run};

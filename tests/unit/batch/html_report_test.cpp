@@ -1,20 +1,14 @@
 // The pieces of the HTML report, byte for byte.
 #include "batch/html_report.h"
 
-#include "platform/headless_host.h"
 #include "platform/version.h"
 #include "unit/platform/expect_error.h"
+#include "unit/platform/fake_host.h"
 
 #include <gtest/gtest.h>
 
 namespace arbolith {
 namespace {
-
-class DatedHost : public HeadlessHost {
-public:
-    Date Today() override { return today; }
-    Date today{2026, 3, 5};
-};
 
 class HtmlReportTest : public testing::Test {
 protected:
@@ -41,7 +35,7 @@ protected:
         return holds;
     }
 
-    DatedHost host;
+    FakeHost host;
     Application application{host, "/nowhere", ""};
     RunDefinition run{application};
 };

@@ -1,11 +1,10 @@
 // What tests of the charts stand on: the windows of the charts side, not wired, over a table of two
-// rows, and a host that prints and answers.
+// rows, and a host that prints and asks for a text.
 #pragma once
 
 #include "charts/custom_chart.h"
 #include "charts/graph_builder.h"
-#include "platform/runtime_error.h"
-#include "unit/forms/test_host.h"
+#include "unit/platform/fake_host.h"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -15,7 +14,7 @@
 
 namespace arbolith {
 
-class ChartsHost : public TestHost {
+class ChartsHost : public FakeHost {
 public:
     std::optional<std::string> AskForText(const std::string& prompt) override {
         prompts.push_back(prompt);
@@ -26,9 +25,7 @@ public:
         if (!hasPrinter) throw RuntimeError(ErrorNumber::kPrinter);
         printed.push_back(picture.GetSize());
     }
-    Size ScreenSize() override { return screen; }
 
-    Size screen = {15360, 11520};
     std::optional<std::string> answerText;
     std::function<void()> whileAsking;
     std::vector<std::string> prompts;

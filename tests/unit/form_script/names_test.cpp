@@ -1,7 +1,7 @@
 #include "form_script/names.h"
 
 #include "forms/controls.h"
-#include "unit/forms/test_host.h"
+#include "unit/platform/fake_host.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ class NamesTest : public ::testing::Test {
 protected:
     NamesTest() { second.SetIndex(2); }
 
-    TestHost host;
+    FakeHost host;
     Application application{host, "/folder", ""};
     Form main{application, "QvlySwd", "", {}};
     Form output{application, "Output", "", {}};

@@ -40,7 +40,7 @@ TEST_F(ApplicationTest, SettlesTheViewsBehindEveryEvent) {
 }
 
 TEST_F(ApplicationTest, PassesBoxesToTheHost) {
-    host.answer = false;
+    host.answers = {false};
     EXPECT_FALSE(application.ShowBox("Sure?", "Title", BoxIcon::kExclamation, BoxButtons::kYesNo));
     ASSERT_EQ(host.boxes.size(), 1U);
     EXPECT_EQ(host.boxes[0].text, "Sure?");

@@ -3,7 +3,7 @@
 
 #include "forms/controls.h"
 #include "forms/user_actions.h"
-#include "unit/forms/test_host.h"
+#include "unit/platform/fake_host.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -27,7 +27,7 @@ protected:
     /// The log so far, which is then empty.
     Log TakeLog() { return std::exchange(log, {}); }
 
-    TestHost host;
+    FakeHost host;
     Application application{host, "/folder", "\"command line\""};
     UserActions actions{application};
     Form form{application, "Test_Form", "Title", {6000, 4500}};

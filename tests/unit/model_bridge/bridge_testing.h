@@ -2,7 +2,7 @@
 // outputs made of the few variables that matter.
 #pragma once
 
-#include "unit/model_bridge/fake_host.h"
+#include "unit/platform/fake_host.h"
 #include "unit/platform/temporary_folder.h"
 
 #include <string>

@@ -3,7 +3,7 @@
 
 #include "forms/application.h"
 #include "results/definition_terms.h"
-#include "unit/model_bridge/fake_host.h"
+#include "unit/platform/fake_host.h"
 
 #include <gtest/gtest.h>
 #include <string>

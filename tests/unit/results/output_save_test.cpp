@@ -2,31 +2,13 @@
 #include "results/output_save.h"
 
 #include "batch/html_report.h"
-#include "unit/model_bridge/fake_host.h"
+#include "unit/platform/fake_host.h"
 #include "unit/platform/temporary_folder.h"
 
-#include <deque>
 #include <gtest/gtest.h>
-#include <optional>
 
 namespace arbolith {
 namespace {
-
-class SaveHost : public FakeHost {
-public:
-    std::optional<FileChoice> ChooseFile(const FileQuestion& question) override {
-        questions.push_back(question);
-        if (choices.empty()) return std::nullopt;
-        const auto choice = choices.front();
-        choices.pop_front();
-        return choice;
-    }
-    Date Today() override { return {2026, 3, 5}; }
-
-    std::vector<FileQuestion> questions;
-    /// What is chosen in the next dialogs; a dialog without a choice is cancelled.
-    std::deque<std::optional<FileChoice>> choices;
-};
 
 class OutputSaveTest : public testing::Test {
 protected:
@@ -47,7 +29,7 @@ protected:
     }
     // Saves under a name in the folder and returns what was written.
     std::string Save(const std::string& name, int filter) {
-        host.choices.push_back(FileChoice{folder.PathOf(name), filter});
+        host.files.push_back(FileChoice{folder.PathOf(name), filter});
         SaveOutput(output, batch);
         return folder.Read(name);
     }
@@ -70,7 +52,7 @@ protected:
         "\r\n";
 
     TemporaryFolder folder;
-    SaveHost host;
+    FakeHost host;
     Application application{host, folder.Path(), ""};
     RunDefinition run{application};
     Batch batch{run};
@@ -133,8 +115,8 @@ TEST_F(OutputSaveTest, ReplacesAnEarlierFile) {
 TEST_F(OutputSaveTest, GivesANameWithoutAPointItsExtension) {
     const auto before = std::filesystem::current_path();
     std::filesystem::current_path(folder.Path());
-    host.choices = {FileChoice{"text", 1}, FileChoice{"page", 2}, FileChoice{"a.b/../c", 1},
-                    FileChoice{"other.ext", 2}};
+    host.files = {FileChoice{"text", 1}, FileChoice{"page", 2}, FileChoice{"a.b/../c", 1},
+                  FileChoice{"other.ext", 2}};
     std::filesystem::create_directory("a.b");
     for (int save = 0; save < 4; ++save) SaveOutput(output, batch);
     std::filesystem::current_path(before);
@@ -163,7 +145,7 @@ TEST_F(OutputSaveTest, PassesOverWhatCannotBeWritten) {
     std::filesystem::create_symlink("/dev/full", folder.PathOf("full.txt"));
     for (const auto* name : {"missing/r.txt", "", "r?.txt", "full.txt"}) {
         for (const int filter : {1, 2}) {
-            host.choices.push_back(FileChoice{folder.PathOf(name), filter});
+            host.files.push_back(FileChoice{folder.PathOf(name), filter});
             SaveOutput(output, batch);
         }
     }

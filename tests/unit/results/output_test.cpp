@@ -2,7 +2,7 @@
 #include "results/output.h"
 
 #include "forms/application.h"
-#include "unit/model_bridge/fake_host.h"
+#include "unit/platform/fake_host.h"
 
 #include <gtest/gtest.h>
 
@@ -37,7 +37,7 @@ TEST_F(OutputTest, CopiesTheSelectionWithTabsAndReturns) {
     FillTable();
     Select(1, 1, 3, 2);
     output.Copy_Mnu_Click();
-    EXPECT_EQ(host.clipboard, "SAGE\tTDBH\r5\t2.5\r10\t");
+    EXPECT_EQ(host.ClipboardText(), "SAGE\tTDBH\r5\t2.5\r10\t");
     EXPECT_TRUE(host.boxes.empty());
 }
 
@@ -45,7 +45,7 @@ TEST_F(OutputTest, CopiesASelectionFromEitherEnd) {
     FillTable();
     Select(3, 2, 1, 1);
     output.Copy_Mnu_Click();
-    EXPECT_EQ(host.clipboard, "SAGE\tTDBH\r5\t2.5\r10\t");
+    EXPECT_EQ(host.ClipboardText(), "SAGE\tTDBH\r5\t2.5\r10\t");
 }
 
 TEST_F(OutputTest, StripsBlanksButNoTabs) {
@@ -53,7 +53,7 @@ TEST_F(OutputTest, StripsBlanksButNoTabs) {
     Select(2, 3, 3, 3);
     EXPECT_EQ(output.form.Table.Clip(), " \r 4");
     output.Copy_Mnu_Click();
-    EXPECT_EQ(host.clipboard, "\r 4");
+    EXPECT_EQ(host.ClipboardText(), "\r 4");
 }
 
 TEST_F(OutputTest, WarnsOfAnEmptySelectionAndEmptiesTheClipboard) {
@@ -65,13 +65,13 @@ TEST_F(OutputTest, WarnsOfAnEmptySelectionAndEmptiesTheClipboard) {
     EXPECT_EQ(host.boxes[0].title, "");
     EXPECT_EQ(host.boxes[0].icon, BoxIcon::kNone);
     EXPECT_EQ(host.boxes[0].buttons, BoxButtons::kOk);
-    EXPECT_EQ(host.clipboard, "");
+    EXPECT_EQ(host.ClipboardText(), "");
 }
 
 TEST_F(OutputTest, HasNothingToCopyOfATableThatWasNeverFilled) {
     output.CopySelection();
     EXPECT_EQ(host.boxes.size(), 1u);
-    EXPECT_EQ(host.clipboard, "");
+    EXPECT_EQ(host.ClipboardText(), "");
 }
 
 TEST_F(OutputTest, TakesACellOfBlanksForASelection) {
@@ -79,7 +79,7 @@ TEST_F(OutputTest, TakesACellOfBlanksForASelection) {
     Select(2, 3, 2, 3);
     output.Copy_Mnu_Click();
     EXPECT_TRUE(host.boxes.empty());
-    EXPECT_EQ(host.clipboard, "");
+    EXPECT_EQ(host.ClipboardText(), "");
 }
 
 TEST_F(OutputTest, SelectsAllButTheFixedCellsAndKeepsThemSelected) {
@@ -91,7 +91,7 @@ TEST_F(OutputTest, SelectsAllButTheFixedCellsAndKeepsThemSelected) {
     EXPECT_EQ(table.Col(), 1);
     EXPECT_EQ(table.RowSel(), 3);
     EXPECT_EQ(table.ColSel(), 3);
-    EXPECT_EQ(host.clipboard, "SAGE\tTDBH\tMDBH\r5\t2.5\t \r10\t\t 4");
+    EXPECT_EQ(host.ClipboardText(), "SAGE\tTDBH\tMDBH\r5\t2.5\t \r10\t\t 4");
 }
 
 TEST_F(OutputTest, SelectsTheCodesOfATableWithoutRows) {
@@ -99,7 +99,7 @@ TEST_F(OutputTest, SelectsTheCodesOfATableWithoutRows) {
     table.SetRows(1);
     table.AddItem("\tSAGE");
     output.SelectAll();
-    EXPECT_EQ(host.clipboard, "SAGE");
+    EXPECT_EQ(host.ClipboardText(), "SAGE");
 }
 
 TEST_F(OutputTest, KeepsTheTextsOfTheReports) {

@@ -5,7 +5,7 @@
 #include "forms/user_actions.h"
 #include "run_definition/run_definition.h"
 #include "shell/program.h"
-#include "unit/run_definition/fake_host.h"
+#include "unit/platform/fake_host.h"
 
 #include <filesystem>
 #include <initializer_list>

@@ -30,7 +30,7 @@ TEST_F(FileMenuTest, AsksForAFileThatExistsInTheApplicationFolder) {
 
 TEST_F(FileMenuTest, ProposesTheNameThatWasOpenedLast) {
     folder.Write("stand.qvn", Joined(PineFile()));
-    host.files = {folder.PathOf("stand.qvn")};
+    host.files = {{folder.PathOf("stand.qvn")}};
     person.Click(form.Open_Mnu);
     person.Click(form.Open_Mnu);
     EXPECT_EQ(LastQuestion().fileName, folder.PathOf("stand.qvn"));
@@ -38,7 +38,7 @@ TEST_F(FileMenuTest, ProposesTheNameThatWasOpenedLast) {
 
 TEST_F(FileMenuTest, AsksForANewNameBeforeASave) {
     Read(PineFile());
-    host.files = {folder.PathOf("stand.qvn")};
+    host.files = {{folder.PathOf("stand.qvn")}};
     person.Click(form.Open_Mnu);
     form.CDL.FilterIndex = 2;
     person.Click(form.SaveAs_Mnu);
@@ -111,7 +111,7 @@ TEST_F(FileMenuTest, AsksWhereToSaveACompleteBatchWhetherItChangedOrNot) {
     EXPECT_EQ(LastBox().title, "Save Error");
     EXPECT_TRUE(host.questions.empty());
     panel.StartBtn_Bat.SetEnabled(true);
-    host.files = {folder.PathOf("batch.txt")};
+    host.files = {{folder.PathOf("batch.txt")}};
     SaveFileAs(saved);
     EXPECT_EQ(LastQuestion().filter, "QVL Batch (*.qvb)|*.qvb|All Files (*.*)|*.*");
     EXPECT_TRUE(LastQuestion().asksBeforeOverwriting);

@@ -137,11 +137,11 @@ TEST_F(ReadRunFileTest, UnwindsWhenTheProgramEndsWhileItWaitsForTheModel) {
     auto lines = PineFile();
     lines[7] = "55,0,0.0,0.0,30,0,0.0";
     folder.Write("stand.qvn", Joined(lines));
-    host.files = {folder.PathOf("stand.qvn")};
+    host.files = {{folder.PathOf("stand.qvn")}};
     host.whileWaiting = [this] { person.Click(form.Exit_Program); };
     person.Click(form.Open_Mnu);
     EXPECT_TRUE(host.gaveUp);
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
     EXPECT_TRUE(host.boxes.empty());
     EXPECT_EQ(saved.RunFilePath, "");
 }

@@ -50,7 +50,10 @@ protected:
         ReadRunFile(saved, folder.PathOf("stand.qvn"));
     }
     void Read(const RunFileText& lines) { Read(Joined(lines)); }
-    void SwitchToAdvancedMode() { person.Click(form.Adv_Mode); }
+    void SwitchToAdvancedMode() {
+        host.answers = {true};
+        person.Click(form.Adv_Mode);
+    }
 
     TestFolder folder;
     FakeHost host;

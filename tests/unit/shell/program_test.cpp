@@ -79,6 +79,7 @@ TEST_F(ProgramTest, EndsTheSplashAtAClick) {
 }
 
 TEST_F(ProgramTest, CentresItsFirstTwoFormsAHundredTwipsHigher) {
+    host.screen = {12000, 9000};
     Start();
     const auto& ofSplash = splash.GetPlace();
     EXPECT_EQ(ofSplash.top, 9000 / 2 - ofSplash.height / 2 - 100);
@@ -107,43 +108,46 @@ TEST_F(ProgramTest, ClosesAFreshFormWithoutAQuestion) {
     EXPECT_TRUE(run.InputChanged);
     person.Close(form);
     EXPECT_TRUE(host.boxes.empty());
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
     EXPECT_FALSE(form.Visible());
 }
 
 TEST_F(ProgramTest, AsksBeforeARunThatChangedIsLost) {
     StartAndPassTheSplash();
     EnterStand();
-    host.answer = false;
+    host.answers = {false};
     person.Close(form);
     ASSERT_EQ(host.boxes.size(), 1u);
     EXPECT_EQ(host.boxes[0].text, "Do you wish to save changes to this run before exit?");
     EXPECT_EQ(host.boxes[0].title, "");
     EXPECT_EQ(host.boxes[0].buttons, BoxButtons::kYesNo);
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
 }
 
 TEST_F(ProgramTest, SavesTheRunOnYesAndEnds) {
     StartAndPassTheSplash();
     EnterStand();
-    host.files = {folder.PathOf("stand.qvn")};
+    host.answers = {true};
+    host.files = {{folder.PathOf("stand.qvn")}};
     person.Close(form);
     EXPECT_NE(folder.Read("stand.qvn").find("White Pine"), std::string::npos);
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
 }
 
 TEST_F(ProgramTest, EndsAlsoWhenTheSaveIsCancelled) {
     StartAndPassTheSplash();
     EnterStand();
+    host.answers = {true};
     person.Close(form);
     EXPECT_EQ(host.questions.size(), 1u);
     EXPECT_EQ(host.boxes.size(), 1u);
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
 }
 
 TEST_F(ProgramTest, EndsAlsoWhenTheSaveFailsInAnUntoldWay) {
     StartAndPassTheSplash();
     EnterStand();
+    host.answers = {true};
     {
         const HeldBackEvents quiet(application);
         form.txtRotAge.SetText("40000");
@@ -151,7 +155,7 @@ TEST_F(ProgramTest, EndsAlsoWhenTheSaveFailsInAnUntoldWay) {
     person.Close(form);
     ASSERT_EQ(host.boxes.size(), 2u);
     EXPECT_EQ(host.boxes[1].text, "Run-time error '6':\nOverflow");
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
 }
 
 TEST_F(ProgramTest, OffersToSaveABatchThatChanged) {
@@ -160,27 +164,29 @@ TEST_F(ProgramTest, OffersToSaveABatchThatChanged) {
     form.Batch.SetVisible(true);
     program.GetBatch().BatchDirty = true;
     program.GetBatch().panel.StartBtn_Bat.SetEnabled(true);
-    host.answer = false;
+    host.answers = {false};
     person.Close(form);
     ASSERT_EQ(host.boxes.size(), 1u);
     EXPECT_EQ(host.boxes[0].text,
               "Do you wish to save changes to this batch sequence before exit?");
     EXPECT_EQ(host.boxes[0].buttons, BoxButtons::kYesNo);
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
 }
 
 TEST_F(ProgramTest, AsksNothingWhereNothingChanged) {
     StartAndPassTheSplash();
     EnterStand();
+    host.answers = {true};
     run.InputChanged = false;
     person.Close(form);
     EXPECT_TRUE(host.boxes.empty());
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
 }
 
 TEST_F(ProgramTest, AsksNothingAboutARunThatCannotBeRun) {
     StartAndPassTheSplash();
     EnterStand();
+    host.answers = {true};
     person.Type(form.txtRotAge, "19");
     EXPECT_FALSE(form.Run.Enabled());
     person.Close(form);
@@ -190,20 +196,22 @@ TEST_F(ProgramTest, AsksNothingAboutARunThatCannotBeRun) {
 TEST_F(ProgramTest, AsksNothingAboutARunInTheBatchView) {
     StartAndPassTheSplash();
     EnterStand();
+    host.answers = {true};
     form.Qvly.SetVisible(false);
     form.Batch.SetVisible(true);
     person.Close(form);
     EXPECT_TRUE(host.boxes.empty());
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
 }
 
 TEST_F(ProgramTest, AsksNothingAboutARunThatIsBeingApplied) {
     StartAndPassTheSplash();
     EnterStand();
+    host.answers = {true};
     form.Run.SetCaption("Apply");
     person.Close(form);
     EXPECT_TRUE(host.boxes.empty());
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
 }
 
 TEST_F(ProgramTest, EndsAtOnceByTheMenu) {
@@ -211,7 +219,7 @@ TEST_F(ProgramTest, EndsAtOnceByTheMenu) {
     EnterStand();
     person.Click(form.Exit_Program);
     EXPECT_TRUE(host.boxes.empty());
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
     EXPECT_TRUE(application.HasEnded());
 }
 
@@ -220,7 +228,7 @@ TEST_F(ProgramTest, EndsAtOnceByTheMenusOtherEntry) {
     EnterStand();
     person.Click(form.Close_Mnu);
     EXPECT_TRUE(host.boxes.empty());
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
 }
 
 TEST_F(ProgramTest, TakesNoMoreActionsOnceItHasEnded) {
@@ -239,7 +247,7 @@ TEST_F(ProgramTest, CreatesTheOutputWindowAtTheFirstRunAndKeepsIt) {
     EXPECT_TRUE(output->form.Visible());
     person.Close(output->form);
     EXPECT_FALSE(output->form.Visible());
-    EXPECT_FALSE(host.ended);
+    EXPECT_EQ(host.ends, 0);
     person.Click(form.Run);
     EXPECT_EQ(program.Results().output.Find(), output);
     EXPECT_TRUE(output->form.Visible());
@@ -256,7 +264,7 @@ TEST_F(ProgramTest, HidesOutputByItsMenuAndEndsByItsExit) {
     EXPECT_EQ(window.Table.Rows(), 3);
     person.Click(form.Run);
     person.Click(window.Close_Program_Mnu);
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
     EXPECT_TRUE(host.boxes.empty());
     EXPECT_FALSE(form.Visible());
     EXPECT_TRUE(folder.Holds("_OUTPUT.TMP"));
@@ -265,14 +273,15 @@ TEST_F(ProgramTest, HidesOutputByItsMenuAndEndsByItsExit) {
 TEST_F(ProgramTest, ClosedDuringARunUnwindsIt) {
     StartAndPassTheSplash();
     EnterStand();
-    host.answer = false;
+    host.answers = {false};
+    host.SetClipboardText("as before");
     host.whileWaiting = [this] { person.Close(form); };
     ModelWrites(ModelOutput({{.sage = 5}}));
     person.Click(form.Run);
     EXPECT_TRUE(host.gaveUp);
-    EXPECT_TRUE(host.ended);
+    EXPECT_EQ(host.ends, 1);
     EXPECT_EQ(host.boxes.size(), 1u);
-    EXPECT_EQ(host.clipboard, "as before");
+    EXPECT_EQ(host.ClipboardText(), "as before");
 }
 
 TEST_F(ProgramTest, RunsAProbeWithinAProbeWhereOneEmptiesAField) {

@@ -1,7 +1,7 @@
 #include "shell/webpage.h"
 
 #include "forms/application.h"
-#include "unit/model_bridge/fake_host.h"
+#include "unit/platform/fake_host.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-// A host for unit tests: boxes, beeps and the clipboard are kept, and a started model is a function
-// that runs at once; what happens while it is waited for is a function as well.
+// The host of unit tests: what the forms ask of it is kept, answers are queued, and a started
+// program is a function that runs at once; what happens while it is waited for is a function too.
 #pragma once
 
 #include "platform/headless_host.h"
@@ -7,9 +7,11 @@
 
 #include <deque>
 #include <functional>
+#include <gtest/gtest.h>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace arbolith {
@@ -24,18 +26,15 @@ class FakeHost : public HeadlessHost {
 public:
     bool ShowBox(const Box& box) override {
         boxes.push_back(box);
-        return answer;
+        if (box.buttons == BoxButtons::kOk) return true;
+        const auto answer = Next(answers);
+        if (!answer) ADD_FAILURE() << "No answer to: " << box.text;
+        return answer.value_or(false);
     }
     void Beep() override { ++beeps; }
-    void SetClipboardText(const std::string& text) override { clipboard = text; }
-    std::string ClipboardText() override { return clipboard; }
-    /// Chooses what is queued; where nothing is, the dialog is cancelled.
     std::optional<FileChoice> ChooseFile(const FileQuestion& question) override {
         questions.push_back(question);
-        if (files.empty()) return std::nullopt;
-        FileChoice choice{files.front(), question.filterIndex};
-        files.pop_front();
-        return choice;
+        return Next(files);
     }
     OpenResult Open(const std::string& address) override {
         opened.push_back(address);
@@ -54,29 +53,41 @@ public:
         whileWaiting();
         gaveUp = giveUp();
     }
+    Date Today() override { return today; }
     Size ScreenSize() override { return screen; }
-    void EndProgram() override { ended = true; }
+    void EndProgram() override { ++ends; }
 
+    /// To the Yes/No boxes to come.
+    std::deque<bool> answers;
+    /// What is chosen in the dialogs to come; those behind the last are cancelled.
+    std::deque<FileChoice> files;
     /// What a started program does.
     std::function<void(const ProgramStart& start)> model;
     /// What a person does while a program runs.
     std::function<void()> whileWaiting;
     bool canStart = true;
-    std::deque<std::string> files;
     OpenResult openResult = OpenResult::kOpened;
     std::optional<ErrorNumber> openError;
-    bool answer = true;
-    Size screen{12000, 9000};
+    Date today{2026, 3, 5};
+    Size screen{15360, 11520};
 
     std::vector<Box> boxes;
     std::vector<FileQuestion> questions;
     std::vector<std::string> opened;
     std::vector<ProgramStart> starts;
-    std::string clipboard = "as before";
     int beeps = 0;
     int waits = 0;
     bool gaveUp = false;
-    bool ended = false;
+    int ends = 0;
+
+private:
+    template <class Answer>
+    static std::optional<Answer> Next(std::deque<Answer>& queue) {
+        if (queue.empty()) return std::nullopt;
+        auto answer = std::move(queue.front());
+        queue.pop_front();
+        return answer;
+    }
 };
 
 }  // namespace arbolith
