@@ -6,9 +6,9 @@
 
 namespace arbolith {
 
-/// The characters that no file is created with. Of the two slashes the one that parts this system's
-/// folders isn't among them.
+/// The characters that no file is created with. A slash is one of them only where it doesn't part
+/// folders.
 inline constexpr std::string_view kRefusedCharacters =
-    std::filesystem::path::preferred_separator == '/' ? "\\?\":*|<>" : "/?\":*|<>";
+    std::filesystem::path::preferred_separator == '/' ? "?\":*|<>" : "/?\":*|<>";
 
 }  // namespace arbolith
