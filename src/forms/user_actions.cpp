@@ -125,6 +125,12 @@ void UserActions::Focus(Control& control) {
     Approach(control);
 }
 
+void UserActions::TabTo(Control& control) {
+    Focus(control);
+    if (control.Kind() == ControlKind::kTextBox && control.Owner().FocusControl() == &control)
+        static_cast<TextBox&>(control).SelectAll();
+}
+
 void UserActions::Act(Control& control) {
     switch (control.Kind()) {
         case ControlKind::kOption:
@@ -162,15 +168,26 @@ void UserActions::DoubleClick(Control& control) {
     application_.Enter([&] { control.Raise(control.onDoubleClick); });
 }
 
+bool UserActions::TypingReplaces(const TextBox& box) {
+    const bool isMarked = !box.Text().empty() && box.SelLength() == box.Text().size();
+    return box.SelectsAllOnFocus() || (isMarked && box.Owner().FocusControl() == &box);
+}
+
 void UserActions::Type(TextBox& box, const std::string& text) {
+    const bool replaces = TypingReplaces(box);
     Focus(box);
-    if (box.SelectsAllOnFocus()) {
+    if (replaces) {
         box.SelectAll();
     } else {
         box.Select(box.Text().size(), 0);
     }
     for (const char c : text) {
         RequireUsable(box);
+        // What the last key set off may have taken the focus away.
+        if (application_.ActiveForm() != &box.Owner() || box.Owner().FocusControl() != &box) {
+            Focus(box);
+            box.Select(box.Text().size(), 0);
+        }
         PressInTextBox(box, {Key::kCharacter, static_cast<unsigned char>(c)});
     }
 }
@@ -189,7 +206,7 @@ void UserActions::Press(Control& control, Key key) {
     Focus(control);
     if (key.name == Key::kTab || key.name == Key::kBackTab) {
         if (Control* next = Application::NextInTabOrder(control, key.name == Key::kTab))
-            Focus(*next);
+            TabTo(*next);
         return;
     }
     if (MenuItem* item = ItemOfShortcut(control.Owner(), key)) {
@@ -301,8 +318,10 @@ void UserActions::PressInList(ListBox& list, Key key) {
 
 void UserActions::PressInGrid(Grid& grid, Key key) {
     application_.Enter([&] {
-        const int row = grid.Row() + (key.name == Key::kUp ? -1 : key.name == Key::kDown ? 1 : 0);
-        if (row != grid.Row() && row >= grid.FixedRows() && row < grid.Rows()) grid.SetRow(row);
+        const int step = key.name == Key::kUp ? -1 : key.name == Key::kDown ? 1 : 0;
+        // At the edge too: what was selected shrinks to the current cell.
+        if (step != 0 && grid.Rows() > grid.FixedRows())
+            grid.SetRow(std::clamp(grid.Row() + step, grid.FixedRows(), grid.Rows() - 1));
         if (const int code = CharacterOf(key); code != 0) KeyPressed(grid, code);
     });
 }

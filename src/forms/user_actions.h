@@ -51,11 +51,16 @@ public:
     void DoubleClick(Control& control);
     /// Moves the focus there, after its form was activated.
     void Focus(Control& control);
+    /// The same by the Tab key: a text there is marked whole, so that typing replaces it.
+    void TabTo(Control& control);
     void Activate(Form& form);
     /// A user who went to another program and comes back: activate and got focus.
     void ComeBack(Form& form);
 
-    /// Focus, then one key press a character.
+    /// Whether what is typed from the outside takes the place of the text: where the focus marks it
+    /// whole, and where it is marked whole already.
+    static bool TypingReplaces(const TextBox& box);
+    /// Focus, then one key press a character, in place of the text or behind it.
     void Type(TextBox& box, const std::string& text);
     /// Focus, then one key. The shortcut of a menu entry clicks the entry without opening its menu.
     void Press(Control& control, Key key);

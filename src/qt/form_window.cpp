@@ -265,7 +265,7 @@ bool FormWindow::focusNextPrevChild(bool next) {
     Control* to = from == nullptr ? Application::FirstInTabOrder(form_)
                                   : Application::NextInTabOrder(*from, next);
     if (to == nullptr) return false;
-    Perform([&](UserActions& actions) { actions.Focus(*to); });
+    Perform([&](UserActions& actions) { actions.TabTo(*to); });
     return true;
 }
 

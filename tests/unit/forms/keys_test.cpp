@@ -48,6 +48,21 @@ TEST_F(KeysTest, ReplacesTheTextWhereTheFocusSelectsIt) {
     EXPECT_EQ(box.Text(), "89");
 }
 
+TEST_F(KeysTest, ReplacesATextThatIsMarkedWhole) {
+    box.SetText("12");
+    box.SelectAll();
+    next.SetText("5");
+    actions.Focus(next);
+    actions.Type(box, "3");
+    EXPECT_EQ(box.Text(), "123") << "the focus marks nothing, and the mark of before is gone";
+    box.SelectAll();
+    actions.Type(box, "4");
+    EXPECT_EQ(box.Text(), "4");
+    box.Select(0, 0);
+    actions.Type(box, "5");
+    EXPECT_EQ(box.Text(), "45");
+}
+
 TEST_F(KeysTest, RaisesNoFocusEventInTheFieldThatHasTheFocus) {
     actions.Focus(box);
     NoteFocus(box);
@@ -200,6 +215,15 @@ TEST_F(KeysTest, GoesToTheNextControlByTab) {
     EXPECT_EQ(TakeLog(), (Log{"box lost", "next got"}));
     actions.Press(next, {Key::kBackTab, 0});
     EXPECT_EQ(log, (Log{"next lost", "box got"}));
+}
+
+TEST_F(KeysTest, MarksTheTextThatTabLeadsTo) {
+    next.SetText("90");
+    actions.Press(box, {Key::kTab, 0});
+    EXPECT_EQ(next.SelStart(), 0U);
+    EXPECT_EQ(next.SelLength(), 2U);
+    actions.Press(next, {Key::kCharacter, '7'});
+    EXPECT_EQ(next.Text(), "7");
 }
 
 class ButtonKeysTest : public KeysTest {
