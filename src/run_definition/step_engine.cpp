@@ -120,6 +120,14 @@ Control* FirstFieldOf(MainForm& form, int step) {
     }
 }
 
+// The steps were hidden in between: a field that had the focus before gets it as if it were new.
+void GiveFocusAnew(Application& application, Control& field) {
+    application.SetFocus(field);
+    if (field.Kind() != ControlKind::kTextBox || !field.Usable()) return;
+    auto& box = static_cast<TextBox&>(field);
+    if (box.SelectsAllOnFocus()) box.SelectAll();
+}
+
 }  // namespace
 
 void CheckSteps(RunDefinition& run, int count) {
@@ -164,7 +172,7 @@ void ShowStep(RunDefinition& run, int step) {
     if (step == 3) form.NSpruceHelp.SetVisible(form.lstSpecies.Text() == "Norway Spruce");
     if (step == 4) form.Help4a.SetVisible(true);
     form.Options.SetCaption("Step " + std::to_string(step) + ":");
-    if (Control* field = FirstFieldOf(form, step)) run.application.SetFocus(*field);
+    if (Control* field = FirstFieldOf(form, step)) GiveFocusAnew(run.application, *field);
 }
 
 void ShowFailedStep(RunDefinition& run) {
