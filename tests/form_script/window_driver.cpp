@@ -78,7 +78,7 @@ public:
                 static_cast<TextBox&>(control).SelectsAllOnFocus()) {
                 ClickAt(widget, widget.rect().center());
             } else {
-                widget.setFocus(Qt::TabFocusReason);
+                widget.setFocus(Qt::OtherFocusReason);
                 Settle();
             }
         }
@@ -86,14 +86,20 @@ public:
     }
 
     void Type(TextBox& box, const std::string& text) override {
+        const bool replaces = UserActions::TypingReplaces(box);
         Focus(box);
-        if (box.SelectsAllOnFocus()) {
+        if (replaces) {
             PressKey(Qt::Key_A, Qt::ControlModifier);
         } else {
             PressKey(Qt::Key_End);
         }
         for (const char c : text) {
             RequireUsable(box);
+            // What the last key set off may have taken the focus away.
+            if (!Approach(box).hasFocus()) {
+                Focus(box);
+                PressKey(Qt::Key_End);
+            }
             PressKey(Key{Key::kCharacter, static_cast<unsigned char>(c)});
         }
     }
@@ -173,6 +179,7 @@ public:
 
     std::optional<std::string> Shown(const Control& control, const std::string& property) override {
         if (application_.HasEnded()) return std::nullopt;
+        if (property == "Focus") AwaitActiveForm();
         const FormWindow* window = windows_.WindowOf(control.Owner());
         if (window == nullptr) return std::nullopt;
         return ShownProperty(*window, control, property);
@@ -232,6 +239,8 @@ private:
     QWidget& Approach(Control& control) const {
         RequireUsable(control);
         FormWindow& window = WindowToUse(control.Owner());
+        // A list that a key has opened would take the mouse.
+        CloseMenus();
         ActivateWindowOf(window);
         RequireUsable(control);
         auto* widget = window.findChild<QWidget*>(ObjectNameOf(control));
