@@ -85,7 +85,7 @@ void TakeSequences(Batch& batch, const std::vector<std::string>& items) {
 
 void ShowPanelForFile(Batch& batch, const std::string& path) {
     auto& panel = batch.panel;
-    ShowBatchView(panel.form);
+    ShowBatchView(panel);
     for (ProgressBar* bar : {&panel.SwdProg, &panel.HwdProg, &panel.TotalProg}) bar->SetValue(0);
     panel.batch_in.SetText(path);
     panel.Batch_Seq.Clear();

@@ -247,7 +247,7 @@ void ApplySequence(Batch& batch) {
     WriteBatch(batch, panel.batch_in.Text());
     RefreshBatchPanel(batch);
     panel.Batch_Seq.SetListIndex(row);
-    ShowBatchView(run.form);
+    ShowBatchView(batch.panel);
     batch.BatchDirty = true;
 }
 

@@ -125,7 +125,7 @@ void MakeSequence(Batch& batch) {
 void CancelMaking(Batch& batch) {
     auto& form = batch.panel.form;
     ResetInput(batch.run);
-    ShowBatchView(form);
+    ShowBatchView(batch.panel);
     ShowMaking(form, false);
     RefreshBatchPanel(batch);
 }
@@ -136,9 +136,13 @@ void AppendMadeSequence(Batch& batch) {
     ShowMaking(batch.panel.form, false);
 }
 
-void ShowBatchView(MainForm& form) {
+void ShowBatchView(BatchPanel& panel) {
+    auto& form = panel.form;
+    const bool wasHidden = !form.Batch.Visible();
     form.Batch.SetVisible(true);
     form.Qvly.SetVisible(false);
+    // What the keys are told for; from a path field Delete would take a character of the path.
+    if (wasHidden) form.GetApplication().SetFocus(panel.Batch_Seq);
 }
 
 void ShowSingleRunView(MainForm& form) {

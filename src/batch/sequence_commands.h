@@ -29,8 +29,9 @@ void CancelMaking(Batch& batch);
 /// Back from there with the new sequence, where the input is faultless.
 void AppendMadeSequence(Batch& batch);
 
-/// The batch view in place of the single-run view, and the other way round.
-void ShowBatchView(MainForm& form);
+/// The batch view in place of the single-run view, with the focus in its list; and the other way
+/// round.
+void ShowBatchView(BatchPanel& panel);
 void ShowSingleRunView(MainForm& form);
 
 }  // namespace arbolith

@@ -44,10 +44,11 @@ void WireSequences(Batch& batch) {
 
 void WireRunAndModes(Batch& batch) {
     auto& form = batch.panel.form;
-    form.Batch_Mnu.onClick = [&form] {
-        form.Batch_Mnu.SetChecked(true);
-        form.Single_Mnu.SetChecked(false);
-        ShowBatchView(form);
+    form.Batch_Mnu.onClick = [&batch] {
+        auto& modes = batch.panel.form;
+        modes.Batch_Mnu.SetChecked(true);
+        modes.Single_Mnu.SetChecked(false);
+        ShowBatchView(batch.panel);
     };
     batch.panel.StartBtn_Bat.onClick = [&batch] { StartBatch(batch); };
     batch.panel.Cancel_Btn_Bat.onClick = [&form] { ShowSingleRunView(form); };
