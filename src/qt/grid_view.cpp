@@ -112,11 +112,13 @@ void GridView::Refresh() {
     RefreshWidget();
 }
 
-// A column that the person has drawn wider stays so until the state gives it another width.
+// As wide as the font wants them, also in a maximised window: numbers are there to be read, and the
+// table scrolls. A column that the person has drawn wider stays so until the state gives it another
+// width.
 void GridView::RefreshSizes() {
     const auto widthOf = [this](int col) {
         const int width = grid_.ColWidth(col);
-        return Window().GetScale().Pixels(width < 0 ? kColumnWidth : width);
+        return Window().FontScale().Pixels(width < 0 ? kColumnWidth : width);
     };
     shownWidths_.resize(static_cast<std::size_t>(grid_.Cols()), -1);
     for (int col = 0; col < grid_.Cols(); ++col) {
