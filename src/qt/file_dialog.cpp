@@ -4,12 +4,17 @@
 #include "qt/texts.h"
 
 #include <QFile>
+#include <QHeaderView>
+#include <QTreeView>
 
 #include <algorithm>
 
 namespace arbolith {
 
 namespace {
+
+// Of the toolkit's own dialog, in characters: the folders, and a row of files with all it tells.
+constexpr int kCharacters = 120;
 
 // The place of the filter that is told as it was given, or by its description alone; -1 for none.
 qsizetype PlaceOf(const QString& selected, const QStringList& filters) {
@@ -40,6 +45,8 @@ QStringList NameFilters(const std::string& filter) {
 FileDialog::FileDialog(QWidget* parent, const FileQuestion& question)
     : QFileDialog(parent), question_(question) {
     setAcceptMode(question.saves ? AcceptSave : AcceptOpen);
+    // The toolkit's own dialog has a title of its own, the desktop's has none.
+    setWindowTitle(question.saves ? QStringLiteral("Save As") : QStringLiteral("Open"));
     setFileMode(question.mustExist ? ExistingFile : AnyFile);
     setOption(DontConfirmOverwrite, !question.asksBeforeOverwriting);
     // The descriptions name the patterns themselves.
@@ -50,6 +57,11 @@ FileDialog::FileDialog(QWidget* parent, const FileQuestion& question)
         selectNameFilter(filters[question.filterIndex - 1]);
     if (!question.folder.empty()) setDirectory(PathOf(question.folder));
     if (!question.fileName.empty()) selectFile(PathOf(question.fileName));
+    // The toolkit's own dialog cuts sizes and days off.
+    if (auto* files = findChild<QTreeView*>(QStringLiteral("treeView")); files != nullptr) {
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        resize(size().expandedTo(QSize(fontMetrics().averageCharWidth() * kCharacters, 0)));
+    }
 }
 
 FileChoice FileDialog::Choice() const {

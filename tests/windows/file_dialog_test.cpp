@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,6 +15,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <functional>
 
@@ -77,6 +79,25 @@ TEST(NameFilters, DescriptionsAndPatternsComeInTurn) {
 
 TEST(NameFilters, AllFilesAreAlsoThoseWithoutAPoint) {
     EXPECT_EQ(NameFilters("All Files (*.*)|*.*"), QStringList{"All Files (*.*) (*)"});
+}
+
+TEST_F(FileDialogTest, SizesAndDaysOfFilesAreShownWhole) {
+    folder.Write("the report of a batch.txt", std::string(123456, 'x'));
+    Ask([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Open");
+        auto* files = dialog.findChild<QTreeView*>();
+        ASSERT_NE(files, nullptr);
+        const QAbstractItemView& rows = *files;
+        ASSERT_TRUE(QTest::qWaitFor([&] {
+            return files->model()->rowCount(files->rootIndex()) == 1 &&
+                   files->columnWidth(1) >= rows.sizeHintForColumn(1);
+        }));
+        for (int column = 0; column < files->header()->count(); ++column) {
+            if (files->isColumnHidden(column)) continue;
+            EXPECT_GE(files->columnWidth(column), rows.sizeHintForColumn(column)) << column;
+        }
+        EXPECT_LE(files->header()->length(), files->viewport()->width());
+    });
 }
 
 TEST_F(FileDialogTest, ANameIsTakenAsItWasTyped) {
