@@ -14,8 +14,11 @@ namespace {
 
 constexpr int kWrongUse = 2;
 
-// The toolkit's own words are nothing for the person's terminal.
-void DropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+// The toolkit's own words are nothing for the person's terminal, but for why it can't go on.
+void TellLastMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    if (type == QtFatalMsg)
+        std::fprintf(stderr, "notepad: %s\n", message.trimmed().toLocal8Bit().constData());
+}
 
 std::string FullPath(const QString& argument) {
     const auto path = QFile::encodeName(argument).toStdString();
@@ -28,7 +31,7 @@ std::string FullPath(const QString& argument) {
 
 int main(int argc, char** argv) {
     using namespace arbolith::notepad;
-    qInstallMessageHandler(DropMessage);
+    qInstallMessageHandler(TellLastMessage);
     QApplication toolkit(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Notepad"));
     QApplication::setApplicationVersion(QString::fromLatin1(arbolith::kVersion));
