@@ -103,7 +103,9 @@ std::unique_ptr<Process> ConsoleHost::Start(const ProgramStart& start) {
     model_ = start.FileName();
     RemoveResults(start.folder);
     auto process = HeadlessHost::Start(start);
-    if (process == nullptr) Note(ExitStatus::kModel, model_ + ": " + WhyNotStarted(start.program));
+    if (process == nullptr)
+        Note(ExitStatus::kModel, (std::filesystem::path(modelFolder) / model_).string() + ": " +
+                                     WhyNotStarted(start.program));
     return process;
 }
 

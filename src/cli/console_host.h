@@ -42,6 +42,8 @@ public:
     std::function<double()> progress;
     /// Ends the forms' program.
     std::function<void()> onInterrupt;
+    /// Where the models lie, for messages.
+    std::string modelFolder;
 
 private:
     using Clock = std::chrono::steady_clock;

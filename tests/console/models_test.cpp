@@ -21,7 +21,8 @@ TEST_F(Models, AMissingOneIsTold) {
     for (const auto& ended : {RunStand(), RunBatch()}) {
         EXPECT_EQ(ended.status, 5);
         EXPECT_EQ(ended.output, "");
-        EXPECT_EQ(ended.errors, "arbolith-cli: SWQVL.exe: No such file or directory\n");
+        EXPECT_EQ(ended.errors,
+                  "arbolith-cli: " + models.PathOf("SWQVL.exe") + ": No such file or directory\n");
     }
     EXPECT_TRUE(LeftNothingBehind());
 }
@@ -34,7 +35,8 @@ TEST_F(Models, OneThatIsNotNeededMayBeMissing) {
 TEST_F(Models, OneThatIsNoProgramIsTold) {
     fs::remove(models.PathOf("SWQVL.exe"));
     models.Write("SWQVL.exe", "no program");
-    EXPECT_EQ(RunStand().errors, "arbolith-cli: SWQVL.exe: Permission denied\n");
+    EXPECT_EQ(RunStand().errors,
+              "arbolith-cli: " + models.PathOf("SWQVL.exe") + ": Permission denied\n");
 }
 
 TEST_F(Models, OneThatWritesNothingIsTold) {
