@@ -63,13 +63,20 @@ std::string FieldTable() {
     return table.Html();
 }
 
+std::string WithArrowsForTabs(const std::string& line) {
+    std::string text;
+    for (const auto& field : Split(line, '\t')) text += (text.empty() ? "" : " → ") + field;
+    return text;
+}
+
 // With the lines' numbers as a person counts them.
 std::string NewBatchFile() {
     std::string text;
     int number = 1;
     for (const auto& line : HeadingOfBatch(kDefaultTextOutput)) {
         const auto place = std::to_string(number++);
-        text += std::string(3 - place.size(), ' ') + place + "  " + EscapedProgramText(line) + "\n";
+        text += std::string(3 - place.size(), ' ') + place + "  " +
+                WithArrowsForTabs(EscapedProgramText(line)) + "\n";
     }
     return "<pre>" + text + "</pre>\n";
 }
