@@ -15,7 +15,7 @@ namespace {
 // Pixels between two buttons of a row.
 constexpr int kGap = 6;
 // How much darker a marked button is than a selection, in per cent.
-constexpr int kDarker = 130;
+constexpr int kDarker = 170;
 
 class ButtonView final : public QPushButton, public View {
 public:
