@@ -33,8 +33,9 @@ void AddPictureFacts(Facts& facts, const std::string& pictureFolder) {
         const auto& name = WordAt(words, 0);
         WordAt(words, 1);
         for (const char* ending : {".png", "@2x.png"})
-            if (!std::filesystem::exists(pictureFolder + "/" + name + ending))
-                throw BadPage("no picture " + name + ending);
+            if (const auto file = name + ending;
+                !std::filesystem::exists(std::filesystem::path(pictureFolder) / file))
+                throw BadPage("no picture " + file);
         return PictureHtml(name, JoinedFrom(words, 1), page);
     };
 }

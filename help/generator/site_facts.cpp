@@ -39,6 +39,7 @@ std::vector<SiteGroup> GroupsOf(const WoodSpecies& wood) {
         group.classes = species.classes;
     }
     std::vector<SiteGroup> groups;
+    groups.reserve(byFirstClass.size());
     for (auto& [siteIndex, group] : byFirstClass) groups.push_back(std::move(group));
     return groups;
 }

@@ -90,7 +90,7 @@ bool IsField(const Control& control) {
 }
 
 QString NameOfField(const Control& control) {
-    const QString label = LabelBefore(control);
+    QString label = LabelBefore(control);
     if (!label.isEmpty() || control.Kind() == ControlKind::kLabel) return label;
     const QString frame = CaptionOf(control.Parent());
     return frame.isEmpty() ? ToQString(control.Name()) : frame;
@@ -100,7 +100,7 @@ QString NameOfField(const Control& control) {
 
 QString AccessibleNameOf(const Control& control) {
     if (const ToldName* told = ToldNameOf(control)) return told->name;
-    const QString caption = CaptionOf(control);
+    QString caption = CaptionOf(control);
     if (caption.isEmpty()) {
         if (control.Kind() == ControlKind::kFrame) return {};
         return IsField(control) ? NameOfField(control) : ToQString(control.Name());

@@ -79,6 +79,7 @@ std::vector<HelpHit> HelpTexts::Search(const QString& words) const {
     std::stable_sort(found.begin(), found.end(),
                      [](const auto& a, const auto& b) { return a.first > b.first; });
     std::vector<HelpHit> hits;
+    hits.reserve(found.size());
     for (auto& [rank, hit] : found) hits.push_back(std::move(hit));
     return hits;
 }
