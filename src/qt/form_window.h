@@ -25,8 +25,6 @@ public:
 
     Form& GetForm() const { return form_; }
     const Scale& GetScale() const { return scale_; }
-    /// As the font wants it, whether the window is maximised or not.
-    const Scale& FontScale() const { return normalScale_; }
     bool HasManualTimers() const;
     /// The font of the texts: the window's, or a smaller one where the screen has less room.
     QFont TextFont() const { return inside_->font(); }

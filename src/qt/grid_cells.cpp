@@ -48,8 +48,7 @@ void GridCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QString text = model_.TextOf(model_.GridRow(index), model_.GridCol(index));
     if (text.isEmpty()) return;
 
-    QFont font = option.font;
-    if (isHeading) font.setBold(true);
+    const QFont font = FontOf(option, index);
     const QRect inside = option.rect.adjusted(kMargin, 0, -kMargin, 0);
     const auto side = isHeading        ? Qt::AlignHCenter
                       : IsNumber(text) ? Qt::AlignRight
@@ -59,6 +58,18 @@ void GridCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
         option.palette.color(group, isSelected ? QPalette::HighlightedText : QPalette::Text));
     painter->drawText(inside, static_cast<int>(side | Qt::AlignVCenter) | Qt::TextSingleLine,
                       QFontMetrics(font).elidedText(text, Qt::ElideRight, inside.width()));
+}
+
+QSize GridCells::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const QFontMetrics metrics(FontOf(option, index));
+    const QString text = model_.TextOf(model_.GridRow(index), model_.GridCol(index));
+    return {metrics.horizontalAdvance(text) + 2 * kMargin, metrics.height()};
+}
+
+QFont GridCells::FontOf(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    QFont font = option.font;
+    font.setBold(model_.IsCentred(index));
+    return font;
 }
 
 }  // namespace arbolith

@@ -14,8 +14,11 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
+    QFont FontOf(const QStyleOptionViewItem& option, const QModelIndex& index) const;
+
     const GridModel& model_;
 };
 

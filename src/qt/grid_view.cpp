@@ -25,6 +25,8 @@ constexpr int kColumnWidth = 960;
 constexpr int kThinHeader = 6;
 // What a row has beyond its line of text, in pixels.
 constexpr int kRowPadding = 6;
+// So many rows tell how wide the texts of a column are.
+constexpr int kMeasuredRows = 200;
 // Milliseconds between steps while the mouse is held outside the cells.
 constexpr int kScrollStep = 50;
 
@@ -49,6 +51,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void MeasureTexts();
     void RefreshSizes();
     void RefreshSelection();
     CellPlace CellAt(QPoint position) const;
@@ -65,6 +68,10 @@ private:
     QPoint mouse_;
     int shownRevision_ = -1;
     std::vector<int> shownWidths_;
+    // What the texts of each column need.
+    std::vector<int> textWidths_;
+    QFont measuredFont_;
+    int measuredRevision_ = -1;
 };
 
 GridView::GridView(Grid& grid, FormWindow& window)
@@ -88,6 +95,7 @@ GridView::GridView(Grid& grid, FormWindow& window)
         header->setSectionResizeMode(QHeaderView::Fixed);
     }
     horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+    horizontalHeader()->setResizeContentsPrecision(kMeasuredRows);
     connect(horizontalHeader(), &QHeaderView::sectionPressed, this, [this](int section) {
         const int col = section + grid_.FixedCols();
         if (HasCells()) SelectFrom({grid_.FixedRows(), col}, {grid_.Rows() - 1, col});
@@ -107,18 +115,28 @@ void GridView::Refresh() {
             horizontalScrollBar()->setValue(0);
         }
     }
+    if (measuredFont_ != font() || measuredRevision_ != shownRevision_) MeasureTexts();
     RefreshSizes();
     RefreshSelection();
     RefreshWidget();
 }
 
-// As wide as the font wants them, also in a maximised window: numbers are there to be read, and the
-// table scrolls. A column that the person has drawn wider stays so until the state gives it another
+void GridView::MeasureTexts() {
+    measuredFont_ = font();
+    measuredRevision_ = shownRevision_;
+    textWidths_.assign(static_cast<std::size_t>(grid_.Cols()), 0);
+    for (int col = grid_.FixedCols(); col < grid_.Cols(); ++col)
+        textWidths_[static_cast<std::size_t>(col)] = sizeHintForColumn(col - grid_.FixedCols());
+}
+
+// A column is as wide as it is told, but no narrower than its texts: they are there to be read, and
+// the table scrolls. One that the person has drawn wider stays so until the state gives it another
 // width.
 void GridView::RefreshSizes() {
     const auto widthOf = [this](int col) {
         const int width = grid_.ColWidth(col);
-        return Window().FontScale().Pixels(width < 0 ? kColumnWidth : width);
+        const int told = Window().GetScale().Pixels(width < 0 ? kColumnWidth : width);
+        return std::max(told, textWidths_[static_cast<std::size_t>(col)]);
     };
     shownWidths_.resize(static_cast<std::size_t>(grid_.Cols()), -1);
     for (int col = 0; col < grid_.Cols(); ++col) {
