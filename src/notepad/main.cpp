@@ -2,6 +2,7 @@
 #include "notepad/editor_window.h"
 #include "notepad/icon.h"
 #include "platform/version.h"
+#include "qt/desktop_colours.h"
 
 #include <QApplication>
 #include <QFile>
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
         std::fputs("usage: notepad [FILE]\n", stderr);
         return kWrongUse;
     }
+    const arbolith::DesktopColours colours;
     EditorWindow window;
     QObject::connect(&toolkit, &QGuiApplication::commitDataRequest, &window,
                      [&window](QSessionManager& session) { window.EndSession(session); });

@@ -1,4 +1,5 @@
 // The program with its windows.
+#include "qt/desktop_colours.h"
 #include "qt/icon.h"
 #include "qt/qt_host.h"
 #include "qt/window_manager.h"
@@ -55,6 +56,7 @@ int main(int argc, char** argv) {
     QApplication toolkit(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Arbolith"));
     AddFontsBesideProgram();
+    const DesktopColours colours;
     QApplication::setWindowIcon(ProgramIcon());
     // A moment without an open window is not the end: the forms say when that is.
     QApplication::setQuitOnLastWindowClosed(false);
