@@ -87,7 +87,8 @@ QPalette DarkPalette() {
     palette.setColor(QPalette::ToolTipBase, kButton);
     palette.setColor(QPalette::PlaceholderText, QColor(0xA0, 0xA0, 0xA0));
     palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(0x6C, 0xB4, 0xF0));
+    // Printed pages have links in this colour too, on white.
+    palette.setColor(QPalette::Link, QColor(0x58, 0xA0, 0xE0));
     palette.setColor(QPalette::LinkVisited, QColor(0xC0, 0xA0, 0xF0));
     // As with light colours, so that what has a colour of its own keeps fitting to it.
     palette.setColor(QPalette::Highlight, QColor(0x30, 0x8C, 0xC6));

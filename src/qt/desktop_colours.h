@@ -3,7 +3,7 @@
 
 #include <QObject>
 
-#include <memory>
+class QDBusVariant;
 
 namespace arbolith {
 
@@ -12,16 +12,21 @@ namespace arbolith {
 /// time; a later one counts all the same. Where there is no session bus, nobody answers on it, or
 /// the toolkit has dark colours from elsewhere, the colours stay. Wants a QApplication without
 /// windows.
-class DesktopColours {
+class DesktopColours final : public QObject {
+    Q_OBJECT
+
 public:
     DesktopColours();
-    ~DesktopColours();
-    DesktopColours(const DesktopColours&) = delete;
-    DesktopColours& operator=(const DesktopColours&) = delete;
+    ~DesktopColours() override;
+
+private slots:
+    void TakeChange(const QString& group, const QString& key, const QDBusVariant& value);
 
 private:
-    class Portal;
-    std::unique_ptr<Portal> portal_;
+    void Ask();
+    void Take(const QDBusVariant& told);
+
+    bool isDark_ = false;
 };
 
 }  // namespace arbolith

@@ -112,7 +112,16 @@ int HelpPage::RoomForPictures() const {
 void HelpPage::resizeEvent(QResizeEvent* event) {
     QTextBrowser::resizeEvent(event);
     const int room = RoomForPictures();
-    if (room == shownRoom_ || widestPicture_ <= std::min(room, shownRoom_)) return;
+    if (room != shownRoom_ && widestPicture_ > std::min(room, shownRoom_)) ReadAnew();
+}
+
+// Links keep the colour that they are read with.
+void HelpPage::changeEvent(QEvent* event) {
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !source().isEmpty()) ReadAnew();
+}
+
+void HelpPage::ReadAnew() {
     const double place =
         1.0 * verticalScrollBar()->value() / std::max(verticalScrollBar()->maximum(), 1);
     reload();

@@ -23,11 +23,14 @@ public:
 protected:
     QVariant loadResource(int type, const QUrl& name) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     QVariant Picture(const QUrl& name);
     int RoomForPictures() const;
     void FollowLink(const QUrl& link);
+    /// The open page once more, with what shows of it staying in its place.
+    void ReadAnew();
 
     double usualPoints_;
     QUrl shown_;

@@ -1,10 +1,12 @@
 // The help window over the pages that the build makes.
 #include "qt/help_window.h"
 
+#include "qt/dark_colours.h"
 #include "qt/help_page.h"
 #include "unit/platform/temporary_folder.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -12,6 +14,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
+#include <QTextCursor>
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
@@ -36,6 +39,13 @@ protected:
         const auto found = contents.findItems(title, Qt::MatchExactly | Qt::MatchRecursive);
         return found.isEmpty() ? nullptr : found.constFirst();
     }
+    // The colour of the page's first link.
+    QColor LinkColour() {
+        QTextCursor cursor(page.document());
+        while (!cursor.charFormat().isAnchor() && !cursor.atEnd())
+            cursor.movePosition(QTextCursor::NextCharacter);
+        return cursor.charFormat().foreground().color();
+    }
     void Follow(const QString& link) { emit page.anchorClicked(QUrl(link)); }
 
     HelpWindow window{HELP_FOLDER};
@@ -49,6 +59,17 @@ TEST_F(HelpWindowTest, BeginsOnTheFirstPage) {
     EXPECT_EQ(window.windowTitle(), "Arbolith Help");
     EXPECT_TRUE(page.toPlainText().startsWith("Arbolith Help"));
     EXPECT_FALSE(Get<QAction>("helpBack").isEnabled());
+}
+
+TEST_F(HelpWindowTest, LinksTakeTheDesktopsColours) {
+    const QColor before = LinkColour();
+    EXPECT_EQ(before, QApplication::palette().color(QPalette::Link));
+    QApplication::setPalette(DarkPalette());
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return LinkColour() == DarkPalette().color(QPalette::Link); }));
+    EXPECT_EQ(ShownFile(), "index.html");
+    QApplication::setPalette(QPalette());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return LinkColour() == before; }));
 }
 
 TEST_F(HelpWindowTest, TheContentsAreATree) {

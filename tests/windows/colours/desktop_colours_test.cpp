@@ -150,9 +150,12 @@ TEST_F(DesktopColoursTest, DarkColoursFromElsewhereStay) {
 }
 
 TEST_F(SessionFolderTest, NobodyIsAskedWhereThereIsNoBus) {
-    const DesktopColours colours;
-    EXPECT_EQ(portal.TimesAsked(), 0);
-    EXPECT_FALSE(IsShownDark());
+    for (const char* told : {"", "autolaunch:"}) {
+        qputenv("DBUS_SESSION_BUS_ADDRESS", told);
+        const DesktopColours colours;
+        EXPECT_EQ(portal.TimesAsked(), 0);
+        EXPECT_FALSE(IsShownDark());
+    }
 }
 
 TEST_F(SessionFolderTest, ABusInItsUsualPlaceIsAsked) {
