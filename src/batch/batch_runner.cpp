@@ -97,7 +97,9 @@ private:
             const auto number = IsUnlabelled(plot) ? NextNumber() : "";
             // A line that keeps its blank label loses as many characters at its end.
             const auto shown = number.empty() ? line : line.substr(0, line.size() - plot.size());
-            if (!IsHtml()) Print("# Plot # " + number + shown);
+            std::string numbered = "# Plot # " + number;
+            numbered += shown;
+            if (!IsHtml()) Print(numbered);
             if (!number.empty()) EntryAt(batch_.SeqPlots, i) = number;
         }
     }
