@@ -152,8 +152,20 @@ TEST_F(RenderingTest, TheSelectionIsHighlighted) {
     EXPECT_EQ(Share(CellImage(6, 3), highlight), 0);
 }
 
+TEST_F(RenderingTest, AColumnIsNoNarrowerThanItsTexts) {
+    auto& table = WidgetOf<QTableView>(form.table);
+    const int before = table.columnWidth(2);
+    Do([&] { form.table.SetCell(10, 3, "123456789.123"); });
+    EXPECT_GT(table.columnWidth(2), before);
+    EXPECT_GT(EmptyFromLeft(CellImage(10, 3)), 0);
+    Do([&] { form.table.SetCell(10, 3, "1.5"); });
+    EXPECT_EQ(table.columnWidth(2), before);
+}
+
 TEST_F(RenderingTest, ANumberThatDoesNotFitIsVisiblyCut) {
     Do([&] { form.table.SetCell(10, 3, "123456789.123"); });
+    auto& table = WidgetOf<QTableView>(form.table);
+    table.setColumnWidth(2, table.columnWidth(2) / 2);
     const QImage cut = CellImage(10, 3);
     // Other digits behind the cut change nothing, others at its front do.
     Do([&] { form.table.SetCell(10, 3, "123456789.999"); });
