@@ -3,6 +3,7 @@
 #include "qt/grid_model.h"
 
 #include <QPainter>
+#include <QtMath>
 
 namespace arbolith {
 
@@ -61,9 +62,10 @@ void GridCells::paint(QPainter* painter, const QStyleOptionViewItem& option,
 }
 
 QSize GridCells::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    const QFontMetrics metrics(FontOf(option, index));
+    const QFontMetricsF metrics(FontOf(option, index));
     const QString text = model_.TextOf(model_.GridRow(index), model_.GridCol(index));
-    return {metrics.horizontalAdvance(text) + 2 * kMargin, metrics.height()};
+    // One pixel more: a text is cut by the fractions of its letters.
+    return {qCeil(metrics.horizontalAdvance(text)) + 2 * kMargin + 1, qCeil(metrics.height())};
 }
 
 QFont GridCells::FontOf(const QStyleOptionViewItem& option, const QModelIndex& index) const {
