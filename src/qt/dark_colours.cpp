@@ -21,6 +21,11 @@ const QColor kText(0xF0, 0xF0, 0xF0);
 const QColor kGreyedText(0x94, 0x94, 0x94);
 const QColor kGreyedSelection(0x50, 0x50, 0x50);
 
+QColor Between(const QColor& one, const QColor& other) {
+    return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2,
+            (one.blue() + other.blue()) / 2};
+}
+
 // Draws what the style does, and on a dark window an outline around it.
 class OutliningStyle final : public QProxyStyle {
 public:
@@ -46,8 +51,10 @@ public:
 
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* more) const override {
+        // Fainter than edges: it is the numbers that are read.
         if (hint == SH_Table_GridLineColor && option != nullptr && IsDark(option->palette))
-            return static_cast<int>(OutlineOn(option->palette).rgb());
+            return static_cast<int>(
+                Between(option->palette.color(QPalette::Base), OutlineOn(option->palette)).rgb());
         return QProxyStyle::styleHint(hint, option, widget, more);
     }
 
@@ -98,10 +105,7 @@ QPalette DarkPalette() {
 }
 
 QColor OutlineOn(const QPalette& palette) {
-    const QColor window = palette.color(QPalette::Window);
-    const QColor text = palette.color(QPalette::WindowText);
-    return {(window.red() + text.red()) / 2, (window.green() + text.green()) / 2,
-            (window.blue() + text.blue()) / 2};
+    return Between(palette.color(QPalette::Window), palette.color(QPalette::WindowText));
 }
 
 void OutlineOnDark() {
