@@ -3,6 +3,7 @@
 #include "notepad/icon.h"
 #include "platform/version.h"
 #include "qt/desktop_colours.h"
+#include "qt/toolkit_messages.h"
 
 #include <QApplication>
 #include <QFile>
@@ -15,12 +16,6 @@ namespace {
 
 constexpr int kWrongUse = 2;
 
-// The toolkit's own words are nothing for the person's terminal, but for why it can't go on.
-void TellLastMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    if (type == QtFatalMsg)
-        std::fprintf(stderr, "notepad: %s\n", message.trimmed().toLocal8Bit().constData());
-}
-
 std::string FullPath(const QString& argument) {
     const auto path = QFile::encodeName(argument).toStdString();
     std::error_code failed;
@@ -32,7 +27,7 @@ std::string FullPath(const QString& argument) {
 
 int main(int argc, char** argv) {
     using namespace arbolith::notepad;
-    qInstallMessageHandler(TellLastMessage);
+    arbolith::TellOnlyWhyItEnds("notepad");
     QApplication toolkit(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Notepad"));
     QApplication::setApplicationVersion(QString::fromLatin1(arbolith::kVersion));

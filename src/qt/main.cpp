@@ -2,6 +2,7 @@
 #include "qt/desktop_colours.h"
 #include "qt/icon.h"
 #include "qt/qt_host.h"
+#include "qt/toolkit_messages.h"
 #include "qt/window_manager.h"
 #include "shell/program.h"
 
@@ -10,19 +11,10 @@
 #include <QFile>
 #include <QFontDatabase>
 
-#include <cstdio>
 #include <filesystem>
 #include <string>
 
 namespace {
-
-// What the toolkit reports about itself is nothing for the user's terminal, but for why it can't
-// go on: mostly that there is no display.
-void TellLastMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    if (type == QtFatalMsg)
-        std::fprintf(stderr, "arbolith: %s\narbolith-cli runs stands without windows.\n",
-                     message.trimmed().toLocal8Bit().constData());
-}
 
 // The shell has taken the quotes away and may stand in another folder than the program.
 std::string CommandLineOf(int count, char** arguments) {
@@ -52,7 +44,7 @@ void AddFontsBesideProgram() {
 
 int main(int argc, char** argv) {
     using namespace arbolith;
-    qInstallMessageHandler(TellLastMessage);
+    TellOnlyWhyItEnds("arbolith", "arbolith-cli runs stands without windows");
     QApplication toolkit(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Arbolith"));
     AddFontsBesideProgram();
