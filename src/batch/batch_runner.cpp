@@ -96,10 +96,11 @@ private:
             const auto& plot = fields[kPlot];
             const auto number = IsUnlabelled(plot) ? NextNumber() : "";
             // A line that keeps its blank label loses as many characters at its end.
-            const auto shown = number.empty() ? line : line.substr(0, line.size() - plot.size());
-            std::string numbered = "# Plot # " + number;
-            numbered += shown;
-            if (!IsHtml()) Print(numbered);
+            if (!IsHtml()) {
+                std::string shown = "# Plot # " + number;
+                shown += number.empty() ? line : line.substr(0, line.size() - plot.size());
+                Print(shown);
+            }
             if (!number.empty()) EntryAt(batch_.SeqPlots, i) = number;
         }
     }
