@@ -127,7 +127,7 @@ void UserActions::Focus(Control& control) {
 
 void UserActions::TabTo(Control& control) {
     Focus(control);
-    if (control.Kind() == ControlKind::kTextBox && control.Owner().FocusControl() == &control)
+    if (control.Kind() == ControlKind::kTextBox && control.HasFocus())
         static_cast<TextBox&>(control).SelectAll();
 }
 
@@ -184,7 +184,7 @@ void UserActions::Type(TextBox& box, const std::string& text) {
     for (const char c : text) {
         RequireUsable(box);
         // What the last key set off may have taken the focus away.
-        if (application_.ActiveForm() != &box.Owner() || box.Owner().FocusControl() != &box) {
+        if (!box.HasFocus()) {
             Focus(box);
             box.Select(box.Text().size(), 0);
         }
