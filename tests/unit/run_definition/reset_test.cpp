@@ -81,12 +81,8 @@ void ExpectEmptyRecord(const RunRecord& record) {
     EXPECT_EQ(record.RAGE, 0);
 }
 
-class Reset : public testing::Test {
+class Reset : public RunningTest {
 protected:
-    RunningProgram running;
-    RunDefinition& run = running.run;
-    MainForm& form = running.form;
-    UserActions& person = running.person;
     std::map<std::string, std::string> fresh = StatesOf(form);
 
     void ExpectFresh() {

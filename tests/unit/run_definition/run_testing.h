@@ -8,6 +8,7 @@
 #include "unit/platform/fake_host.h"
 
 #include <filesystem>
+#include <gtest/gtest.h>
 #include <initializer_list>
 #include <string>
 #include <utility>
@@ -85,6 +86,16 @@ struct RunningProgram {
     /// The enabled ones of the step buttons, Run and Append_Btn, as the level that leaves them so;
     /// -1 for a state that no level gives.
     int Level() const;
+};
+
+/// A test with the running program, whose parts go by short names.
+class RunningTest : public testing::Test {
+protected:
+    RunningProgram running;
+    RunDefinition& run = running.run;
+    MainForm& form = running.form;
+    UserActions& person = running.person;
+    FakeHost& host = running.host;
 };
 
 /// Reads the level from the buttons' states.

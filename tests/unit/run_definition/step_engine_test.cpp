@@ -1,7 +1,7 @@
 // The step engine: which buttons open, which step is shown, and what is told.
 #include "run_definition/step_engine.h"
 
-#include "unit/run_definition/run_testing.h"
+#include "unit/run_definition/step_testing.h"
 
 #include <gtest/gtest.h>
 
@@ -33,44 +33,7 @@ TEST(EnableSteps, AdvancedModeRaisesEveryLevel) {
     EXPECT_EQ(LevelOf(bare.form), 8);
 }
 
-class StepEngine : public testing::Test {
-protected:
-    RunningProgram running;
-    RunDefinition& run = running.run;
-    MainForm& form = running.form;
-    UserActions& person = running.person;
-    FakeHost& host = running.host;
-
-    // The step that is shown by its frame, its help and the caption above; 0 for none.
-    int Shown() {
-        const Frame* frames[] = {&form.Step1, &form.Step2, &form.Step3, &form.Step4,
-                                 &form.Step5, &form.Step6, &form.Step7};
-        const Label* helps[] = {&form.Help1, &form.Help2, &form.Help3, &form.Help4,
-                                &form.Help5, &form.Help6, &form.Help7};
-        int shown = 0;
-        for (int step = 1; step <= 7; ++step) {
-            const bool visible = frames[step - 1]->Visible();
-            EXPECT_EQ(helps[step - 1]->Visible(), visible) << "help " << step;
-            if (visible) {
-                EXPECT_EQ(shown, 0) << "two steps at once";
-                shown = step;
-            }
-        }
-        EXPECT_EQ(form.Options_Help.Visible(), shown == 0);
-        EXPECT_EQ(form.Options.Caption(),
-                  shown == 0 ? "Options:" : "Step " + std::to_string(shown) + ":");
-        EXPECT_EQ(form.Help4a.Visible(), shown == 4);
-        return shown;
-    }
-    void ExpectInputError(const std::string& text) {
-        ASSERT_EQ(host.boxes.size(), 1U);
-        EXPECT_EQ(host.boxes[0].text, text);
-        EXPECT_EQ(host.boxes[0].title, "Input Error");
-        EXPECT_EQ(host.boxes[0].icon, BoxIcon::kExclamation);
-        EXPECT_EQ(host.boxes[0].buttons, BoxButtons::kOk);
-        host.boxes.clear();
-    }
-};
+class StepEngine : public StepTest {};
 
 TEST_F(StepEngine, AFirstPassOpensStepAfterStep) {
     EXPECT_EQ(running.Level(), 1);
@@ -381,78 +344,6 @@ TEST_F(StepEngine, AFailedStepBringsTheSingleRunViewForward) {
     run.StepErrorStep = 8;
     ShowFailedStep(run);
     EXPECT_EQ(Shown(), 4);
-}
-
-TEST_F(StepEngine, InAdvancedModeAFailedStepIsNotShown) {
-    form.Adv_Mode.SetChecked(true);
-    form.Qvly.SetVisible(false);
-    form.Batch.SetVisible(true);
-    run.StepErrorStep = 4;
-    ShowFailedStep(run);
-    EXPECT_TRUE(form.Batch.Visible());
-    EXPECT_FALSE(form.Step4.Visible());
-}
-
-TEST_F(StepEngine, AdvancedModeAsksFirst) {
-    running.EnterSoftwood();
-    host.answers = {false};
-    person.Click(form.Adv_Mode);
-    ASSERT_EQ(host.boxes.size(), 1U);
-    EXPECT_EQ(host.boxes[0].text,
-              "Enabling advanced mode will cause all input to be reset, \n        and invalid "
-              "input will be ignored from now on.\n\nAre you sure you want to enable advanced user "
-              "mode?");
-    EXPECT_EQ(host.boxes[0].title, "Confirm selection");
-    EXPECT_EQ(host.boxes[0].buttons, BoxButtons::kYesNo);
-    EXPECT_FALSE(form.Adv_Mode.Checked());
-    EXPECT_EQ(form.Stocking_Index.Text(), "100");
-    EXPECT_EQ(run.StepsReached, 7);
-    EXPECT_EQ(Shown(), 7);
-}
-
-TEST_F(StepEngine, AdvancedModeResetsAndOpensEverything) {
-    running.EnterSoftwood();
-    host.answers = {true};
-    person.Click(form.Adv_Mode);
-    EXPECT_TRUE(form.Adv_Mode.Checked());
-    EXPECT_EQ(running.Level(), 8);
-    EXPECT_EQ(form.Stocking_Index.Text(), "");
-    EXPECT_EQ(run.StepsReached, 0);
-    EXPECT_EQ(Shown(), 0);
-    host.boxes.clear();
-
-    running.Press({7, 2, 4});
-    EXPECT_TRUE(host.boxes.empty()) << "nothing is checked";
-    EXPECT_EQ(running.Level(), 8);
-    EXPECT_EQ(Shown(), 4);
-    person.Click(form.choose_Site);
-    person.Type(form.Site, "0");
-    EXPECT_EQ(running.Level(), 8);
-}
-
-TEST_F(StepEngine, LeavingAdvancedModeLeavesTheButtonsOpenUntilTheNextStep) {
-    host.answers = {true};
-    person.Click(form.Adv_Mode);
-    running.PressStep(5);
-    host.boxes.clear();
-    person.Click(form.Adv_Mode);
-    EXPECT_TRUE(host.boxes.empty()) << "no question";
-    EXPECT_FALSE(form.Adv_Mode.Checked());
-    EXPECT_EQ(running.Level(), 8);
-    EXPECT_EQ(run.StepsReached, 0);
-    EXPECT_EQ(Shown(), 0);
-    running.PressStep(7);
-    ExpectInputError("Please select a tree species to model");
-    EXPECT_EQ(Shown(), 3);
-    EXPECT_EQ(running.Level(), 3);
-}
-
-TEST_F(StepEngine, LeavingAdvancedModeNarrowsAtTheFirstStep) {
-    host.answers = {true};
-    person.Click(form.Adv_Mode);
-    person.Click(form.Adv_Mode);
-    running.PressStep(1);
-    EXPECT_EQ(running.Level(), 3);
 }
 
 TEST_F(StepEngine, CheckingStopsAtTheFirstFault) {

@@ -6,14 +6,7 @@
 namespace arbolith {
 namespace {
 
-class MainFormEvents : public testing::Test {
-protected:
-    RunningProgram running;
-    RunDefinition& run = running.run;
-    MainForm& form = running.form;
-    UserActions& person = running.person;
-    FakeHost& host = running.host;
-};
+class MainFormEvents : public RunningTest {};
 
 TEST_F(MainFormEvents, TheOptionsOfAPairExcludeEachOther) {
     running.EnterSoftwood();

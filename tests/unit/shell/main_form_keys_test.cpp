@@ -8,14 +8,8 @@
 namespace arbolith {
 namespace {
 
-class MainFormKeys : public testing::Test {
+class MainFormKeys : public RunningTest {
 protected:
-    RunningProgram running;
-    RunDefinition& run = running.run;
-    MainForm& form = running.form;
-    UserActions& person = running.person;
-    FakeHost& host = running.host;
-
     void PressEnter(Control& control) { person.Press(control, {Key::kEnter}); }
     int TakeBeeps() { return std::exchange(host.beeps, 0); }
     // A planted softwood stand with its step 2 open.
